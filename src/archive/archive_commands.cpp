@@ -1,0 +1,219 @@
+#include "archive/archive_commands.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "archive/archive_file.h"
+#include "archive/archive_properties_dialog.h"
+#include "archive/scan.h"
+#include "foundation/failures.h"
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
+#include "foundation/record.h"
+#include "foundation/sound_effects.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "game/import.h"
+#include "game/restore.h"
+#include "platform/file_dialogs.h"
+#include "program.h"
+#include "savegames/main_window.h"
+
+namespace vellumark {
+namespace {
+
+constexpr std::int16_t kNewArchiveMaxSavegame = 15;
+
+bool HasNoNameOfItsOwn(const std::string& path) {
+  return EqualsIgnoringAsciiCase(FileNameOf(path), LoadMessage(281));
+}
+
+// Writes the settings to LastArchive and says why when that fails. A file that was not read whole
+// is kept aside first.
+FileError WriteSettings(Program& program) {
+  const std::string& path = program.preferences.LastArchive;
+  if (program.archive.read_in_part && FileExists(program.files, path) &&
+      !KeepBackupOf(program.files, path)) {
+    return FileError::kInputOutput;
+  }
+  const FileError error =
+      WriteRecordFile(program.files, path, EncodeArchive(program.archive.settings));
+  if (error == FileError::kNone) {
+    program.archive.read_in_part.reset();
+    program.archive.ArchiveChanged = false;
+  }
+  return error;
+}
+
+std::string NotWritten(const std::string& path, FileError error) {
+  return LoadMessage(kArchiveNotWritten, {Quoted(path), ReasonFor(error)});
+}
+
+// A path that comes from a file dialog must fit the record that remembers it.
+bool FitsRecord(Program& program, const std::string& path) {
+  if (path.size() <= kTextFieldSize) return true;
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  Tell(program, LoadMessage(kPathTooLong, {Quoted(path)}), BoxIcon::kCritical);
+  return false;
+}
+
+// Nothing that the user could miss is in settings without a folder.
+bool HoldsNothing(const ArchiveSettings& settings) {
+  return settings.MainFolder.empty() && settings.GameFolder.empty() &&
+         settings.GameExecutable.empty();
+}
+
+// True while the settings are still what could be read of a damaged file: writing them would
+// only make the damage look whole.
+bool IsUnchangedDamage(const ArchiveState& archive) {
+  if (!archive.read_in_part) return false;
+  ArchiveSettings as_read = *archive.read_in_part;
+  as_read.SavegameCount = archive.settings.SavegameCount;
+  return as_read == archive.settings;
+}
+
+void ClearMainWindow(Program& program) {
+  using Field = MainWindow::Field;
+  program.main_window.ShowLines({});
+  for (const Field field :
+       {Field::kTotCartelle, Field::kTotSavegame, Field::kNote, Field::kPathSavegame}) {
+    program.main_window.SetField(field, "");
+  }
+  program.catalogue = {};
+  program.selection = {};
+}
+
+// The record of a file chosen with Load; nothing after telling the user why it is refused.
+std::optional<ArchiveSettings> ReadChosenArchive(Program& program, const std::string& path) {
+  const ArchiveRead read = ReadArchiveFile(program.files, path);
+  if (read.state == ArchiveReadState::kWhole) return read.settings;
+
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  const std::string reason = read.state == ArchiveReadState::kNotArchive
+                                 ? LoadMessage(kReasonNotAnArchive)
+                                 : ReasonFor(read.error);
+  Tell(program, LoadMessage(kArchiveRefused, {Quoted(path), reason}), BoxIcon::kCritical);
+  return std::nullopt;
+}
+
+}  // namespace
+
+void SaveArchive(Program& program) {
+  program.preferences.LastArchive = Trimmed(program.preferences.LastArchive);
+  if (program.preferences.LastArchive.empty()) {
+    SaveArchiveAs(program);
+    return;
+  }
+  if (const FileError error = WriteSettings(program); error != FileError::kNone) {
+    Tell(program, NotWritten(program.preferences.LastArchive, error), BoxIcon::kCritical);
+  }
+}
+
+void SaveArchiveAs(Program& program) {
+  program.archive.settings.SavegameCount = program.catalogue.EntryCount();
+  PlaySoundEffect(program, SoundEffect::kOpening);
+
+  const std::string last = Trimmed(program.preferences.LastArchive);
+  const auto chosen = program.file_dialogs.Save({.title = LoadMessage(283),
+                                                 .filter = LoadMessage(282),
+                                                 .start_folder = FolderOf(last),
+                                                 .initial_name = last});
+  if (!chosen) return;
+  const std::string path = Trimmed(*chosen);
+  if (!FitsRecord(program, path)) return;
+
+  // Saving overwrites without a question, so what another file of that name held is kept.
+  const bool is_own_file = SamePath(program.text, path, last);
+  std::optional<std::string> kept;
+  if (!is_own_file && FileExists(program.files, path)) {
+    kept = KeepBackupOf(program.files, path);
+    if (!kept) {
+      Tell(program, NotWritten(path, FileError::kInputOutput), BoxIcon::kCritical);
+      return;
+    }
+  }
+
+  program.preferences.LastArchive = path;
+  if (const FileError error = WriteSettings(program); error != FileError::kNone) {
+    program.preferences.LastArchive = last;
+    Tell(program, NotWritten(path, error), BoxIcon::kCritical);
+  } else if (kept) {
+    Tell(program, LoadMessage(kOldFileKept, {Quoted(path), Quoted(*kept)}));
+  }
+}
+
+void SaveArchiveIfChanged(Program& program) {
+  if (!program.archive.ArchiveChanged) return;
+
+  program.archive.settings.SavegameCount = static_cast<std::int32_t>(
+      std::ranges::count_if(program.catalogue.entries,
+                            [](const SavegameEntry& entry) { return entry.FolderNumber != 0; }));
+  std::string& last = program.preferences.LastArchive;
+  last = Trimmed(last);
+
+  if (last.empty() && HoldsNothing(program.archive.settings)) return;
+  if (last.empty() || HasNoNameOfItsOwn(last)) {
+    SaveArchiveAs(program);
+    return;
+  }
+  if (IsUnchangedDamage(program.archive)) return;
+  const FileError error = WriteSettings(program);
+  if (error == FileError::kNone) return;
+  const std::string question =
+      NotWritten(last, error) + kLineBreak + kLineBreak + LoadMessage(kSaveElsewhere);
+  if (AskYesNo(program, question, BoxIcon::kCritical)) SaveArchiveAs(program);
+}
+
+void NewArchive(Program& program) {
+  SaveArchiveIfChanged(program);
+  const ArchiveState kept_archive = program.archive;
+  const std::string kept_path = Trimmed(program.preferences.LastArchive);
+
+  program.archive.settings = {};
+  program.archive.settings.MaxSavegame = kNewArchiveMaxSavegame;
+  program.archive.settings.SubfolderBaseName = LoadMessage(269);
+  program.archive.read_in_part.reset();
+  program.preferences.LastArchive = program.paths.ProgramFolder + LoadMessage(270);
+
+  program.archive_properties->ImpostaValori();
+  program.archive_properties->ShowModal();
+  if (!program.archive.ArchivePropertiesOk) {
+    program.archive.settings = kept_archive.settings;
+    program.archive.read_in_part = kept_archive.read_in_part;
+    program.preferences.LastArchive = kept_path;
+    return;
+  }
+  program.archive.ArchiveChanged = true;
+  ScanArchive(program);
+  if (program.catalogue.EntryCount() == 0) ImportCommand(program);
+}
+
+void LoadArchive(Program& program) {
+  SaveArchiveIfChanged(program);
+  PlaySoundEffect(program, SoundEffect::kOpening);
+
+  const auto chosen = program.file_dialogs.Open({.title = LoadMessage(266),
+                                                 .filter = LoadMessage(267),
+                                                 .start_folder = program.paths.ProgramFolder,
+                                                 .initial_name = ""});
+  if (!chosen) return;
+  const std::string path = Trimmed(*chosen);
+  if (!FitsRecord(program, path)) return;
+  const auto settings = ReadChosenArchive(program, path);
+  if (!settings) return;
+
+  program.preferences.LastArchive = path;
+  if (!SamePath(program.text, settings->GameFolder, program.archive.settings.GameFolder)) {
+    RestoreOriginalSavegames(program);
+  }
+  program.archive.settings = *settings;
+  program.archive.read_in_part.reset();
+  program.archive.ArchiveChanged = false;
+  ClearMainWindow(program);
+  ScanArchive(program);
+}
+
+}  // namespace vellumark

@@ -1,0 +1,30 @@
+// New, Load, Save and Save as, and the saving that happens by itself.
+#ifndef VELLUMARK_ARCHIVE_ARCHIVE_COMMANDS_H_
+#define VELLUMARK_ARCHIVE_ARCHIVE_COMMANDS_H_
+
+namespace vellumark {
+
+struct Program;
+
+// Writes the settings to LastArchive; without one it asks for a name. A failure is told, and the
+// archive stays changed.
+void SaveArchive(Program& program);
+
+// Asks for a file name, writes the settings there and makes it LastArchive. What an existing file
+// of that name held is kept beside it as `<name>.bak`.
+void SaveArchiveAs(Program& program);
+
+// Saves when the archive has changed. An archive that was never saved under a name of its own
+// brings up the question for one.
+void SaveArchiveIfChanged(Program& program);
+
+// Makes a new archive with the archive properties dialog; needs one (Program::archive_properties).
+void NewArchive(Program& program);
+
+// Asks for an archive file and opens it. A file that is no whole archive record is refused, and
+// everything stays as it was.
+void LoadArchive(Program& program);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_ARCHIVE_ARCHIVE_COMMANDS_H_

@@ -1,0 +1,36 @@
+// The archive in use: where its savegames lie and which game they belong to.
+#ifndef VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_H_
+#define VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_H_
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace vellumark {
+
+// Texts are kept trimmed; the file holds at most 256 characters of each.
+struct ArchiveSettings {
+  std::string SubfolderBaseName;  // sub-folder k is MainFolder + `\` + this + k, k from 1
+  std::string MainFolder;
+  std::string GameFolder;          // where the game keeps its slots
+  std::string GameExecutable;      // full path
+  std::int16_t MaxSavegame = 0;    // the highest slot number; slots 0 to this one are looked at
+  std::int32_t SavegameCount = 0;  // written when the file is saved, never read
+
+  bool operator==(const ArchiveSettings&) const = default;
+};
+
+// The settings in use and what is known about their file, Preferences::LastArchive.
+struct ArchiveState {
+  ArchiveSettings settings;
+  bool ArchiveChanged = false;
+
+  // Set while the settings come from a file that could not be read whole: what could be read.
+  std::optional<ArchiveSettings> read_in_part;
+
+  bool ArchivePropertiesOk = false;  // the last answer of the archive properties dialog
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_H_

@@ -1,0 +1,38 @@
+// Reads the archive's folders and the game folder into a catalogue.
+#ifndef VELLUMARK_ARCHIVE_CATALOGUE_BUILDER_H_
+#define VELLUMARK_ARCHIVE_CATALOGUE_BUILDER_H_
+
+#include <string>
+#include <vector>
+
+#include "archive/archive_settings.h"
+#include "archive/catalogue.h"
+#include "foundation/failures.h"
+
+namespace vellumark {
+
+class Text;
+
+struct CatalogueRequest {
+  const ArchiveSettings& settings;
+  const std::string& game_folder;  // the folder that is listed with folder number 0
+  bool all_subfolders = false;     // every first-level folder instead of the numbered ones
+};
+
+struct ScannedCatalogue {
+  Catalogue catalogue;
+  std::vector<bool> has_shot;          // for each entry: its screen-shot existed
+  std::vector<Failure> failures;       // folders and files that could not be read as they should
+  std::vector<std::string> ambiguous;  // paths left out: another name differs by case only
+  std::vector<std::string> leftovers;  // temporary files of a run that was cut off
+  bool table_full = false;             // there was more than a catalogue can hold
+};
+
+// A savegame file that is short or cannot be read is listed with what could be read of its level
+// name and the counter 0.
+ScannedCatalogue BuildCatalogue(FileSystem& files, const Text& text,
+                                const CatalogueRequest& request);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_ARCHIVE_CATALOGUE_BUILDER_H_

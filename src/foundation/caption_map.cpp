@@ -1,0 +1,155 @@
+#include "foundation/caption_map.h"
+
+namespace vellumark {
+namespace {
+
+constexpr Caption kDialogCattura[] = {
+    {"", 101, 0},
+    {"Frame2", 102, 0},
+    {"Pul_Annulla", 103, 0},
+    {"Pul_Ok", 104, 0},
+    {"Pul_SalvaScreenShot", 105, 0},
+    {"Label1", 106, 0},
+};
+
+constexpr Caption kDialogCerca[] = {
+    {"", 116, 0},
+    {"Frame2", 117, 0},
+    {"Check_ConScreenShot", 118, 0},
+    {"Check_ConNote", 119, 0},
+    {"Pul_Annulla", 120, 0},
+    {"Pul_Cerca", 121, 0},
+    {"Frame1", 122, 0},
+    {"Check_Note", 123, 0},
+    {"Check_NomeLivello", 124, 0},
+    {"Label1", 125, 0},
+};
+
+constexpr Caption kDialogGetDir[] = {
+    {"", 127, 0},
+    {"Pul_NuovaCartella", 128, 0},
+    {"CancelButton", 129, 0},
+    {"OKButton", 130, 0},
+};
+
+constexpr Caption kDialogNote[] = {
+    {"", 152, 0},
+    {"Frame2", 153, 0},
+    {"Pul_SfogliaScreen", 154, 0},
+    {"Check_EliminaShot", 155, 0},
+    {"Pul_Annulla", 156, 0},
+    {"Pul_Ok", 157, 0},
+    {"Frame1", 158, 0},
+    {"Label3", 159, 0},
+    {"Label2", 160, 0},
+    {"Label1", 161, 0},
+};
+
+constexpr Caption kDialogPref[] = {
+    {"", 166, 0},
+    {"Pul_Sfoglia", 167, 0},
+    {"Pul_Annulla", 168, 0},
+    {"Pul_Ok", 169, 0},
+    {"Check_Suoni", 170, 0},
+    {"Check_AvvioAutomatico", 171, 0},
+    {"Check_TutteLeDir", 172, 0},
+    {"Label1", 173, 0},
+};
+
+constexpr Caption kDialogRiordina[] = {
+    {"", 175, 0},
+    {"Pul_CopiaShot", 176, 0},
+    {"Pul_Annulla", 177, 0},
+    {"Pul_Riordina", 178, 0},
+    {"Frame3", 179, 0},
+    {"Check_CreaInfo", 180, 0},
+    {"Check_NonMescolare", 181, 0},
+    {"Check_EliminaUguali", 182, 0},
+    {"Check_EliminaSorgente", 183, 0},
+    {"Label3", 184, 185},
+    {"Frame1", 186, 0},
+    {"Pul_PercorsoBase", 187, 0},
+    {"Label9", 188, 0},
+    {"Label2", 189, 0},
+    {"Label1", 190, 0},
+};
+
+constexpr Caption kDialogSetNewArc[] = {
+    {"", 201, 0},
+    {"Pul_Cancel", 202, 0},
+    {"Pul_Ok", 203, 0},
+    {"pul_sfoglia_nome_tomb", 204, 205},
+    {"pul_sfoglia_tr", 206, 207},
+    {"pul_sfoglia_dir", 208, 209},
+    {"Label3", 210, 211},
+    {"Label7", 212, 0},
+    {"Label2", 213, 0},
+    {"Label1", 214, 0},
+    {"Label9", 215, 0},
+};
+
+constexpr Caption kDialogScreenShot[] = {
+    {"", 224, 0},
+};
+
+constexpr Caption kPrincipale[] = {
+    {"", 225, 0},
+    {"Pul_StartTomb", 226, 227},
+    {"Pul_Play", 228, 229},
+    {"Pul_CambiaProp", 230, 0},
+    {"Pul_Zoom", 231, 0},
+    {"Pul_Cerca", 232, 0},
+    {"Label6", 233, 0},
+    {"Label5", 234, 0},
+    {"Label4", 235, 0},
+    {"mnu_File", 236, 0},
+    {"mnu_New", 237, 0},
+    {"mnu_Load", 238, 0},
+    {"mnu_Save", 239, 0},
+    {"mnu_SaveAs", 240, 0},
+    {"mnu_Exit", 241, 0},
+    {"mnu_Savegames", 242, 0},
+    {"mnu_Archivia", 243, 0},
+    {"mnu_Find", 244, 0},
+    {"mnu_Examine", 245, 0},
+    {"mnu_PropSavegame", 246, 0},
+    {"mnu_Copy", 247, 0},
+    {"mnu_Move", 248, 0},
+    {"mnu_Delete", 249, 0},
+    {"mnu_Tools", 250, 0},
+    {"mnu_Reorder", 251, 0},
+    {"mnu_Scansione", 252, 0},
+    {"mnu_Preference", 253, 0},
+    {"mnu_PrefArchive", 254, 0},
+    {"mnu_PrefManager", 255, 0},
+    {"mnu_Help", 256, 0},
+    {"mnu_ShowHelp", 257, 0},
+};
+
+}  // namespace
+
+std::span<const Caption> CaptionsOf(WindowId window) {
+  switch (window) {
+    case WindowId::kDialogCattura:
+      return kDialogCattura;
+    case WindowId::kDialogCerca:
+      return kDialogCerca;
+    case WindowId::kDialogGetDir:
+      return kDialogGetDir;
+    case WindowId::kDialogNote:
+      return kDialogNote;
+    case WindowId::kDialogPref:
+      return kDialogPref;
+    case WindowId::kDialogRiordina:
+      return kDialogRiordina;
+    case WindowId::kDialogSetNewArc:
+      return kDialogSetNewArc;
+    case WindowId::kDialogScreenShot:
+      return kDialogScreenShot;
+    case WindowId::kPrincipale:
+      return kPrincipale;
+  }
+  return {};
+}
+
+}  // namespace vellumark

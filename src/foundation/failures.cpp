@@ -1,0 +1,51 @@
+#include "foundation/failures.h"
+
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+
+namespace vellumark {
+
+std::string ReasonFor(FileError error) {
+  switch (error) {
+    case FileError::kNone:
+      return LoadMessage(kReasonNotWhole);
+    case FileError::kNotFound:
+      return LoadMessage(kReasonNotFound);
+    case FileError::kAlreadyExists:
+      return LoadMessage(kReasonAlreadyExists);
+    case FileError::kAccessDenied:
+      return LoadMessage(kReasonAccessDenied);
+    case FileError::kDiskFull:
+      return LoadMessage(kReasonDiskFull);
+    case FileError::kNotReady:
+      return LoadMessage(kReasonNotReady);
+    case FileError::kBadName:
+      return LoadMessage(kReasonBadName);
+    case FileError::kAmbiguous:
+      return LoadMessage(kReasonAmbiguous);
+    case FileError::kNotEmpty:
+      return LoadMessage(kReasonNotEmpty);
+    case FileError::kInUse:
+      return LoadMessage(kReasonInUse);
+    case FileError::kInputOutput:
+      break;
+  }
+  return LoadMessage(kReasonInputOutput);
+}
+
+std::string DescribeFailures(const std::vector<Failure>& failures) {
+  constexpr std::size_t kMostLines = 60;
+  std::string text;
+  for (const Failure& failure : failures) {
+    if (&failure - failures.data() == kMostLines) {
+      const auto left_out = static_cast<int>(failures.size() - kMostLines);
+      return text + kLineBreak + LoadMessage(kMoreFailures, {left_out});
+    }
+    text += kLineBreak + LoadMessage(kFailureLine, {ReasonFor(failure.why), Quoted(failure.path)});
+  }
+  return text;
+}
+
+}  // namespace vellumark

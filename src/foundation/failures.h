@@ -1,0 +1,27 @@
+// What went wrong during an operation, gathered and told in one message at its end.
+#ifndef VELLUMARK_FOUNDATION_FAILURES_H_
+#define VELLUMARK_FOUNDATION_FAILURES_H_
+
+#include <string>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace vellumark {
+
+struct Failure {
+  std::string path;
+  FileError why = FileError::kNone;
+};
+
+// The reason in words, without a full stop. kNone, for a file that was read but is too short or
+// not what it should be, has words too.
+std::string ReasonFor(FileError error);
+
+// One line for each failure: the path in quotes and the reason. Long lists end with the number of
+// failures left out.
+std::string DescribeFailures(const std::vector<Failure>& failures);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_FOUNDATION_FAILURES_H_

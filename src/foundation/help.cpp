@@ -1,0 +1,23 @@
+#include "foundation/help.h"
+
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "program.h"
+
+namespace vellumark {
+
+void ShowHelp(Program& program) {
+  const std::string help_file = program.paths.ProgramFolder + LoadMessage(272);
+  if (!FileExists(program.files, help_file)) {
+    Tell(program, LoadMessage(273) + help_file, BoxIcon::kCritical);
+    return;
+  }
+  if (!OpenWithShell(program.files, program.text, program.shell, help_file, "", false, "")) {
+    Tell(program, LoadMessage(kNothingOpens, {Quoted(help_file)}), BoxIcon::kExclamation);
+  }
+}
+
+}  // namespace vellumark

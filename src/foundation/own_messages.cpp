@@ -1,0 +1,100 @@
+#include "foundation/own_messages.h"
+
+#include "foundation/message_table.h"
+
+namespace vellumark {
+namespace {
+
+// In the tone of the closed table: short, to the point, saying what happened to the files.
+constexpr TableMessage kOwnMessages[] = {
+    {kAlreadyRunning, "Vellumark is already running from folder ~1"},
+    {kProgramFolderUnusable,
+     "Vellumark cannot run from this folder: its path is too long or has characters that savegame "
+     "archives cannot hold.~1Please move the program to another folder."},
+    {kCodePageSubstitute,
+     "The text of your language cannot be kept in savegame notes and paths. Vellumark uses the "
+     "characters of code page ~1."},
+    {kBackupFolderNotReady,
+     "Warning: the backup folder ~1 cannot be used: ~2.\r\nSavegames cannot be played until it "
+     "can."},
+    {kSlotsSetAside,
+     "Warning: in backup folder ~1 there were savegames left by a previous run.~2They have been "
+     "moved in ~3 and nothing of them was lost."},
+    {kSlotsNotSetAside,
+     "Warning: savegames left by a previous run could not be moved out of the backup folder. They "
+     "are still there, and nothing was deleted:"},
+    {kRescueFolder, "\\rescued"},
+
+    {kPreferencesNotReadWhole,
+     "Warning: the preferences file ~1 could not be read whole: ~2.\r\nWhat is missing takes its "
+     "default. The file will be kept with the ending .bak before it is written again."},
+    {kPreferencesNotWritten,
+     "The preferences could not be saved in ~1: ~2.\r\nThe file has been left as it was."},
+    {kArchiveNotReadWhole,
+     "Warning: the archive file ~1 could not be read whole: ~2.\r\nIt will not be written again "
+     "unless you change the archive or save it, and then it will be kept with the ending .bak "
+     "first. No savegame is affected."},
+    {kArchiveRefused, "The file ~1 cannot be opened as an archive: ~2."},
+    {kArchiveNotWritten,
+     "The archive could not be saved in ~1: ~2.\r\nThe file has been left as it was."},
+    {kSaveElsewhere, "Do you want to save it with another name?"},
+    {kOldFileKept, "The archive has been saved in ~1.\r\nThe file that had this name is now ~2"},
+    {kPathTooLong, "This path is too long, it can have 256 characters at most: ~1"},
+    {kPathNotExpressible,
+     "This file or folder cannot be used: its path has characters that savegame archives cannot "
+     "hold, or no drive letter leads to it."},
+
+    {kTableFull,
+     "Warning: there are more savegames or sub-folders than the list can hold. Only the first ~1 "
+     "are listed; the others are untouched."},
+    {kAmbiguousNames,
+     "Warning: these names exist twice in their folder, in upper and lower case. They are not "
+     "listed and will not be deleted. Please rename one of each:"},
+    {kScanFailures, "Warning: these could not be read, or only in part:"},
+
+    {kSubfolderNotMade,
+     "The new sub-folder ~1 could not be created: ~2.~3Nothing has been imported, and nothing has "
+     "changed in Tomb Raider folder ~4"},
+    {kImportNotCopied,
+     "Warning: not everything could be imported. These files could not be copied and are still in "
+     "Tomb Raider folder ~1:"},
+    {kImportNotFlushed,
+     "Warning: the disk did not confirm that the imported copies are safe: ~1.\r\nTherefore "
+     "nothing "
+     "has been deleted from Tomb Raider folder ~2"},
+    {kImportNotDeleted,
+     "Warning: these files could not be deleted, or changed while they were imported. They are "
+     "still in Tomb Raider folder ~1:"},
+    {kImportNotRenamed, "The last savegame could not become savegame.0 and is still ~1: ~2."},
+    {kInfoNotWritten, "The list of the imported savegames could not be added to ~1: ~2."},
+
+    {kNothingOpens, "No program could be started that opens the file ~1"},
+    {kFailureLine, "~2: ~1"},
+    {kMoreFailures, "... and ~1 more"},
+
+    {kNameList, "List of savegames"},
+    {kNameNote, "Note of the selected savegame"},
+    {kNamePicture, "Screen-shot of the selected savegame"},
+    {kNamePosition, "Position in the search result"},
+    {kNamePrevious, "Previous savegame found"},
+    {kNameNext, "Next savegame found"},
+
+    {kReasonNotWhole, "it is too short"},
+    {kReasonNotAnArchive, "it holds no archive settings"},
+    {kReasonNotFound, "it does not exist"},
+    {kReasonAlreadyExists, "the name exists already"},
+    {kReasonAccessDenied, "it is read-only, or access is denied"},
+    {kReasonDiskFull, "the disk is full"},
+    {kReasonNotReady, "the drive is not ready"},
+    {kReasonBadName, "this is not a possible name"},
+    {kReasonAmbiguous, "the name exists twice, in upper and lower case"},
+    {kReasonNotEmpty, "the folder is not empty"},
+    {kReasonInUse, "another program is using it"},
+    {kReasonInputOutput, "it could not be read or written"},
+};
+
+}  // namespace
+
+std::span<const TableMessage> OwnMessageTable() { return kOwnMessages; }
+
+}  // namespace vellumark

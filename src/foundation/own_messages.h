@@ -1,0 +1,71 @@
+// The names of the messages from 401 on.
+#ifndef VELLUMARK_FOUNDATION_OWN_MESSAGES_H_
+#define VELLUMARK_FOUNDATION_OWN_MESSAGES_H_
+
+namespace vellumark {
+
+enum OwnMessage : int {
+  // Start
+  kAlreadyRunning = 401,   // ~1 program folder
+  kProgramFolderUnusable,  // ~1 line break
+  kCodePageSubstitute,     // ~1 code page
+  kBackupFolderNotReady,   // ~1 folder, ~2 reason
+  kSlotsSetAside,          // ~1 folder, ~2 line break, ~3 new folder
+  kSlotsNotSetAside,       // followed by failure lines
+  kRescueFolder,           // path tail
+
+  // Settings files
+  kPreferencesNotReadWhole,  // ~1 file, ~2 reason
+  kPreferencesNotWritten,    // ~1 file, ~2 reason
+  kArchiveNotReadWhole,      // ~1 file, ~2 reason
+  kArchiveRefused,           // ~1 file, ~2 reason
+  kArchiveNotWritten,        // ~1 file, ~2 reason
+  kSaveElsewhere,            // question
+  kOldFileKept,              // ~1 file, ~2 kept copy
+  kPathTooLong,              // ~1 path
+  kPathNotExpressible,       // no values
+
+  // Scan
+  kTableFull,       // ~1 number of entries
+  kAmbiguousNames,  // followed by failure lines
+  kScanFailures,    // followed by failure lines
+
+  // Import
+  kSubfolderNotMade,  // ~1 folder, ~2 reason, ~3 line break, ~4 game folder
+  kImportNotCopied,   // ~1 game folder; followed by failure lines
+  kImportNotFlushed,  // ~1 reason, ~2 game folder
+  kImportNotDeleted,  // ~1 game folder; followed by failure lines
+  kImportNotRenamed,  // ~1 file name, ~2 reason
+  kInfoNotWritten,    // ~1 file, ~2 reason
+
+  // Everywhere
+  kNothingOpens,  // ~1 file
+  kFailureLine,   // ~1 reason, ~2 path
+  kMoreFailures,  // ~1 number
+
+  // Names of the controls that have no caption, for assistive technology and as tool tips
+  kNameList,
+  kNameNote,
+  kNamePicture,
+  kNamePosition,
+  kNamePrevious,
+  kNameNext,
+
+  // Reasons, each a part of a sentence
+  kReasonNotWhole,
+  kReasonNotAnArchive,
+  kReasonNotFound,
+  kReasonAlreadyExists,
+  kReasonAccessDenied,
+  kReasonDiskFull,
+  kReasonNotReady,
+  kReasonBadName,
+  kReasonAmbiguous,
+  kReasonNotEmpty,
+  kReasonInUse,
+  kReasonInputOutput,
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_FOUNDATION_OWN_MESSAGES_H_

@@ -1,0 +1,17 @@
+// Where this run finds its own files.
+#ifndef VELLUMARK_FOUNDATION_PROGRAM_PATHS_H_
+#define VELLUMARK_FOUNDATION_PROGRAM_PATHS_H_
+
+#include <string>
+
+namespace vellumark {
+
+struct ProgramPaths {
+  std::string ProgramFolder;    // without a trailing backslash; set before start-up
+  std::string PreferencesPath;  // read at start-up, written at shut-down
+  std::string DefaultShotPath;  // empty when the picture is missing
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_FOUNDATION_PROGRAM_PATHS_H_

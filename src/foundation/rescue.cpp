@@ -1,0 +1,55 @@
+#include "foundation/rescue.h"
+
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
+#include "program.h"
+
+namespace vellumark {
+namespace {
+
+// Makes the next free numbered folder. On failure the folder's name is still answered.
+FileError MakeRescueFolder(Program& program, std::string& folder) {
+  const std::string parent = program.paths.ProgramFolder + LoadMessage(kRescueFolder);
+  FileError error = program.files.Attributes(parent).error;
+  folder = parent;
+  if (error == FileError::kNotFound) error = program.files.CreateFolder(parent);
+  for (int n = 1; error == FileError::kNone; ++n) {
+    folder = InFolder(parent, std::to_string(n));
+    error = program.files.Attributes(folder).error;
+    if (error == FileError::kNotFound) return program.files.CreateFolder(folder);
+  }
+  return error;
+}
+
+// Moves one file: by renaming it, or, where that cannot be done, by a verified and flushed copy.
+FileError Move(FileSystem& files, const std::string& from, const std::string& to) {
+  if (files.Rename(from, to, RenameMode::kRefuseExisting) == FileError::kNone) {
+    return FileError::kNone;
+  }
+  FileError error = FileError::kNone;
+  if (!CopyFileReplacing(files, from, to, &error)) return error;
+  error = files.Flush({to});
+  return error == FileError::kNone ? files.Delete(from) : error;
+}
+
+}  // namespace
+
+Rescue SetAside(Program& program, const std::vector<std::string>& paths) {
+  Rescue rescue;
+  if (paths.empty()) return rescue;
+  const FileError no_folder = MakeRescueFolder(program, rescue.folder);
+  if (no_folder != FileError::kNone) {
+    rescue.folder.clear();
+    for (const std::string& path : paths) rescue.failures.push_back({path, no_folder});
+    return rescue;
+  }
+  for (const std::string& path : paths) {
+    const FileError error = Move(program.files, path, InFolder(rescue.folder, FileNameOf(path)));
+    if (error != FileError::kNone) rescue.failures.push_back({path, error});
+  }
+  return rescue;
+}
+
+}  // namespace vellumark

@@ -1,0 +1,36 @@
+#include "foundation/shut_down.h"
+
+#include "archive/archive_commands.h"
+#include "foundation/messages.h"
+#include "foundation/preferences_file.h"
+#include "foundation/sound_effects.h"
+#include "foundation/talk.h"
+#include "foundation/windows.h"
+#include "game/restore.h"
+#include "program.h"
+
+namespace vellumark {
+
+void MainWindowClosing(Program& program) {
+  ShutDown(program);
+  for (const WindowId dialog :
+       {WindowId::kDialogCattura, WindowId::kDialogCerca, WindowId::kDialogGetDir,
+        WindowId::kDialogNote, WindowId::kDialogPref, WindowId::kDialogRiordina,
+        WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc}) {
+    program.windows.CloseDialog(dialog);
+  }
+}
+
+void ShutDown(Program& program) {
+  if (program.details.ViewerOpen) program.windows.CloseDialog(WindowId::kDialogScreenShot);
+  if (program.capture.CaptureDialogOpen) program.windows.CloseDialog(WindowId::kDialogCattura);
+  SaveArchiveIfChanged(program);
+  WritePreferencesFile(program);
+  RestoreOriginalSavegames(program);
+  if (program.capture.ShotLinkedNotImported) {
+    PlaySoundEffect(program, SoundEffect::kNotice);
+    Tell(program, LoadMessage(285, {kCarriageReturn}), BoxIcon::kExclamation);
+  }
+}
+
+}  // namespace vellumark

@@ -1,0 +1,28 @@
+#include "foundation/talk.h"
+
+#include <utility>
+
+#include "program.h"
+
+namespace vellumark {
+namespace {
+
+// While the user is asked, nothing works: the timer may act.
+BoxAnswer Show(Program& program, const std::string& text, BoxButtons buttons, BoxIcon icon) {
+  const bool was_working = std::exchange(program.working, false);
+  const BoxAnswer answer = program.boxes.Show(text, buttons, icon);
+  program.working = was_working;
+  return answer;
+}
+
+}  // namespace
+
+void Tell(Program& program, const std::string& text, BoxIcon icon) {
+  Show(program, text, BoxButtons::kOk, icon);
+}
+
+bool AskYesNo(Program& program, const std::string& text, BoxIcon icon) {
+  return Show(program, text, BoxButtons::kYesNo, icon) == BoxAnswer::kYes;
+}
+
+}  // namespace vellumark

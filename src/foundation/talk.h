@@ -1,0 +1,25 @@
+// Message boxes as the core uses them.
+#ifndef VELLUMARK_FOUNDATION_TALK_H_
+#define VELLUMARK_FOUNDATION_TALK_H_
+
+#include <string>
+
+#include "platform/message_boxes.h"
+
+namespace vellumark {
+
+struct Program;
+
+// The line breaks that callers put into messages.
+inline constexpr const char* kCarriageReturn = "\r";
+inline constexpr const char* kLineBreak = "\r\n";
+
+// Shows a text with an OK button.
+void Tell(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
+
+// Asks with Yes and No, Yes being the default. True for Yes.
+bool AskYesNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_FOUNDATION_TALK_H_

@@ -1,0 +1,99 @@
+// Puts the platform, the state and the windows together.
+#include <QApplication>
+#include <QIcon>
+#include <QPixmap>
+#include <memory>
+
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
+#include "foundation/start_up.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_shell.h"
+#include "platform/qt/qt_sound_player.h"
+#include "platform/system_services.h"
+#include "program.h"
+#include "ui/principale.h"
+
+namespace {
+
+using namespace vellumark;
+
+// The longest program folder whose own files' paths still fit everywhere.
+constexpr std::size_t kLongestProgramFolder = 200;
+
+std::optional<std::string> FindProgramFolder(FileSystem& files) {
+  auto folder = files.FromHostPath(QCoreApplication::applicationDirPath().toStdString());
+  if (folder && folder->size() > kLongestProgramFolder) return std::nullopt;
+  return folder;
+}
+
+// The arguments as one text, less those that Qt takes for itself.
+std::string ArgumentText(const Text& text, MessageBoxes& boxes) {
+  const QString joined = QCoreApplication::arguments().mid(1).join(u' ');
+  const EncodedText encoded = text.FromUtf8(joined.toStdString());
+  if (encoded.missing.empty()) return encoded.bytes;
+  boxes.Show(LoadMessage(kPathNotExpressible), BoxButtons::kOk, BoxIcon::kCritical);
+  return {};
+}
+
+void SetIcon(FileSystem& files, const std::string& program_folder) {
+  const ReadResult read =
+      files.Read(InFolder(program_folder, "vellumark.png"), FileSystem::kWholeFile);
+  QPixmap picture;
+  picture.loadFromData(reinterpret_cast<const uchar*>(read.bytes.data()),
+                       static_cast<uint>(read.bytes.size()));
+  if (!picture.isNull()) QApplication::setWindowIcon(picture);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Vellumark"));
+  QApplication::setDesktopFileName(QStringLiteral("vellumark"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  const std::unique_ptr<Text> text = MakeSystemText();
+  const std::unique_ptr<FileSystem> files = MakeSystemFileSystem(*text);
+  QtMessageBoxes boxes(*text);
+
+  const auto program_folder = FindProgramFolder(*files);
+  if (!program_folder) {
+    boxes.Show(LoadMessage(kProgramFolderUnusable, {kLineBreak}), BoxButtons::kOk,
+               BoxIcon::kCritical);
+    return 1;
+  }
+  const LockResult lock = files->LockFolder(*program_folder);
+  if (lock.answer == LockAnswer::kHeldByAnother) {
+    boxes.Show(LoadMessage(kAlreadyRunning, {Quoted(*program_folder)}), BoxButtons::kOk,
+               BoxIcon::kCritical);
+    return 1;
+  }
+
+  SetIcon(*files, *program_folder);
+  QtFileDialogs file_dialogs(*files, *text, boxes);
+  QtSoundPlayer sounds(QCoreApplication::applicationDirPath());
+  QtShell shell;
+  Principale window(*files, *text);
+  Program program{.files = *files,
+                  .text = *text,
+                  .boxes = boxes,
+                  .file_dialogs = file_dialogs,
+                  .sounds = sounds,
+                  .shell = shell,
+                  .windows = window,
+                  .main_window = window};
+  program.paths.ProgramFolder = *program_folder;
+  program.argument_text = ArgumentText(*text, boxes);
+  window.Attach(program);
+  QObject::connect(&window, &Principale::Closed, &application, &QCoreApplication::quit,
+                   Qt::QueuedConnection);
+
+  MainWindowLoaded(program);
+  window.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,26 @@
+// Message boxes: how the program talks to the user.
+#ifndef VELLUMARK_PLATFORM_MESSAGE_BOXES_H_
+#define VELLUMARK_PLATFORM_MESSAGE_BOXES_H_
+
+#include <string>
+
+namespace vellumark {
+
+enum class BoxButtons { kOk, kOkCancel, kYesNo };
+enum class BoxIcon { kNone, kCritical, kExclamation };
+enum class BoxAnswer { kOk, kCancel, kYes, kNo };
+
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+
+  // Shows `text` (code page; carriage return, line feed or both break the line) over the window
+  // that is modal at that moment and waits for the answer; the program's name is the title and
+  // the first button the default. The program's timer and events run meanwhile. Closing the box or
+  // Escape answers kOk, kCancel or kNo.
+  virtual BoxAnswer Show(const std::string& text, BoxButtons buttons, BoxIcon icon) = 0;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_MESSAGE_BOXES_H_

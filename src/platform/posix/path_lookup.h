@@ -1,0 +1,73 @@
+// From the core's paths to the host's: each name as spelled first, then without case.
+#ifndef VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_H_
+#define VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_H_
+
+#include <sys/stat.h>
+
+#include <cstddef>
+#include <string>
+
+#include "platform/file_system.h"
+#include "platform/posix/drive_map.h"
+#include "platform/posix/path_lookup_names.h"
+#include "platform/posix/path_lookup_variants.h"
+#include "platform/posix/path_lookup_windows_path.h"
+
+namespace vellumark {
+
+// Something that exists. A dead link does: it has a host path and no status.
+struct FoundPath {
+  FileError error = FileError::kNone;  // kNotFound; kNotReady for a drive without its folder
+  std::string host;
+  bool ambiguous = false;  // a name is not there as spelled, but in several other spellings
+};
+
+struct PathStatus {
+  FileError error = FileError::kNone;
+  std::string host;
+  struct stat status = {};  // links followed; meaningful when error is kNone
+  bool dead_link = false;   // then error is kNotFound
+};
+
+// Where a name stands or would stand: what an operation that changes the disk has to know.
+struct NamePlace {
+  FileError error = FileError::kNone;  // the folder's; kAccessDenied for the root of a drive
+  std::string folder;                  // host path
+  std::string name;                    // host name: the disk's when it exists, else as spelled
+  bool exists = false;
+  bool ambiguous = false;  // also when the name as spelled is one of several
+
+  std::string Host() const;
+};
+
+// Finds paths. All paths must have only Windows names. Refers to the PathNames, which must outlive
+// it.
+class PathLookup {
+ public:
+  PathLookup(DriveMap drives, const PathNames& names);
+
+  const DriveMap& drives() const { return drives_; }
+
+  // The host path of a path in its own spelling, whether it exists or not; empty when the drive
+  // does not exist.
+  std::string Spelled(const WindowsPath& path) const;
+
+  FoundPath Find(const WindowsPath& path);
+  PathStatus Status(const WindowsPath& path);
+  NamePlace FindPlace(const WindowsPath& path);
+
+  // The host path with the disk's spelling as far as the path exists.
+  std::string HostPath(const WindowsPath& path);
+
+ private:
+  std::string SpelledPart(const WindowsPath& path, std::size_t count) const;
+  FoundPath FindPart(const WindowsPath& path, std::size_t count);
+
+  DriveMap drives_;
+  const PathNames& names_;
+  VariantFinder variants_;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_H_

@@ -1,0 +1,58 @@
+#include "platform/qt/qt_file_dialogs.h"
+
+#include <QFileInfo>
+
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "platform/file_system.h"
+#include "platform/message_boxes.h"
+#include "platform/qt/opener.h"
+#include "platform/qt/qt_text.h"
+
+namespace vellumark {
+
+QString QtFilter(const QString& filter) {
+  const QString description = filter.section(u'|', 0, 0);
+  const QString pattern = QStringLiteral("(%1)").arg(filter.section(u'|', 1));
+  return description.endsWith(pattern) ? description : description + u' ' + pattern;
+}
+
+std::optional<std::string> QtFileDialogs::Open(const FileDialogRequest& request) {
+  QFileDialog dialog(ModalOpener());
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return Run(dialog, request);
+}
+
+std::optional<std::string> QtFileDialogs::Save(const FileDialogRequest& request) {
+  QFileDialog dialog(ModalOpener());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.confirm_overwrite);
+  return Run(dialog, request);
+}
+
+std::optional<std::string> QtFileDialogs::Run(QFileDialog& dialog,
+                                              const FileDialogRequest& request) {
+  dialog.setWindowTitle(ToQString(text_, request.title));
+  dialog.setNameFilter(QtFilter(ToQString(text_, request.filter)));
+  const QString folder = HostPath(request.start_folder);
+  if (QFileInfo(folder).isDir()) dialog.setDirectory(folder);
+  if (!request.initial_name.empty()) {
+    dialog.selectFile(QFileInfo(HostPath(request.initial_name)).fileName());
+  }
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+
+  const std::string chosen = dialog.selectedFiles().constFirst().toStdString();
+  auto path = files_.FromHostPath(chosen);
+  if (!path) {
+    boxes_.Show(LoadMessage(kPathNotExpressible), BoxButtons::kOk, BoxIcon::kCritical);
+  }
+  return path;
+}
+
+QString QtFileDialogs::HostPath(const std::string& path) const {
+  return QString::fromStdString(files_.HostPath(path));
+}
+
+}  // namespace vellumark

@@ -1,0 +1,37 @@
+// File dialogs by Qt, which asks the desktop for its own.
+#ifndef VELLUMARK_PLATFORM_QT_QT_FILE_DIALOGS_H_
+#define VELLUMARK_PLATFORM_QT_QT_FILE_DIALOGS_H_
+
+#include <QFileDialog>
+
+#include "platform/file_dialogs.h"
+
+namespace vellumark {
+
+class FileSystem;
+class MessageBoxes;
+class Text;
+
+class QtFileDialogs final : public FileDialogs {
+ public:
+  QtFileDialogs(FileSystem& files, const Text& text, MessageBoxes& boxes)
+      : files_(files), text_(text), boxes_(boxes) {}
+
+  std::optional<std::string> Open(const FileDialogRequest& request) override;
+  std::optional<std::string> Save(const FileDialogRequest& request) override;
+
+ private:
+  std::optional<std::string> Run(QFileDialog& dialog, const FileDialogRequest& request);
+  QString HostPath(const std::string& path) const;
+
+  FileSystem& files_;
+  const Text& text_;
+  MessageBoxes& boxes_;
+};
+
+// A filter in the form description `|` pattern as Qt writes it.
+QString QtFilter(const QString& filter);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_QT_QT_FILE_DIALOGS_H_

@@ -1,0 +1,17 @@
+// Opening documents by the desktop.
+#ifndef VELLUMARK_PLATFORM_QT_QT_SHELL_H_
+#define VELLUMARK_PLATFORM_QT_QT_SHELL_H_
+
+#include "platform/shell.h"
+
+namespace vellumark {
+
+class QtShell final : public Shell {
+ public:
+  bool Open(const std::string& document, const std::string& parameters,
+            const std::string& working_folder, bool hidden) override;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_QT_QT_SHELL_H_

@@ -1,0 +1,76 @@
+// The state of one run, gathered in one place. Each piece is declared by its owner; operations are
+// free functions over the whole.
+#ifndef VELLUMARK_PROGRAM_H_
+#define VELLUMARK_PROGRAM_H_
+
+#include <string>
+
+#include "archive/archive_settings.h"
+#include "archive/catalogue.h"
+#include "foundation/preferences.h"
+#include "foundation/program_paths.h"
+#include "game/capture_state.h"
+#include "game/play_state.h"
+#include "savegames/search_result.h"
+#include "savegames/selection.h"
+
+namespace vellumark {
+
+class ArchivePropertiesDialog;
+class FileDialogs;
+class FileSystem;
+class MainWindow;
+class MessageBoxes;
+class Shell;
+class SoundPlayer;
+class Text;
+class Windows;
+
+struct Program {
+  // The system and the windows.
+  FileSystem& files;
+  const Text& text;
+  MessageBoxes& boxes;
+  FileDialogs& file_dialogs;
+  SoundPlayer& sounds;
+  Shell& shell;
+  Windows& windows;
+  MainWindow& main_window;
+
+  // Null while the desktop has none; a new archive cannot be made then.
+  ArchivePropertiesDialog* archive_properties = nullptr;
+
+  ProgramPaths paths{};
+  std::string argument_text{};  // the command line's arguments as one text
+  Preferences preferences{};
+  PreferencesFileState preferences_file{};
+  ArchiveState archive{};
+  Catalogue catalogue{};
+  Selection selection{};
+  DetailsState details{};
+  SearchResult search{};
+  PlayState play{};
+  CaptureState capture{};
+
+  // True while an operation works without waiting for the user; the timer does nothing then.
+  bool working = false;
+};
+
+// Marks an operation that works without waiting for the user, for as long as it lives.
+class WorkScope {
+ public:
+  explicit WorkScope(Program& program) : program_(program), was_(program.working) {
+    program_.working = true;
+  }
+  ~WorkScope() { program_.working = was_; }
+  WorkScope(const WorkScope&) = delete;
+  WorkScope& operator=(const WorkScope&) = delete;
+
+ private:
+  Program& program_;
+  bool was_;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PROGRAM_H_

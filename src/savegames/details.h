@@ -1,0 +1,26 @@
+// Keeps the selection and the details of the main window in step with the list.
+#ifndef VELLUMARK_SAVEGAMES_DETAILS_H_
+#define VELLUMARK_SAVEGAMES_DETAILS_H_
+
+#include <cstdint>
+
+namespace vellumark {
+
+struct Program;
+
+// Rebuilds the selection from the list's selected lines and answers its count.
+std::int16_t BuildSelection(Program& program);
+
+// Rebuilds the selection and shows the path, note and picture of the one selected savegame, or the
+// count of several.
+void RefreshDetails(Program& program);
+
+// Leaves exactly this catalogue entry's line selected and shows its details.
+void SelectOnly(Program& program, int index);
+
+// The viewer: shows the picture that was current when it was asked for.
+void ShowScreenShot(Program& program);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_SAVEGAMES_DETAILS_H_

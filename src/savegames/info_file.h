@@ -1,0 +1,27 @@
+// Plain-text listings of a folder's savegames, for people to read.
+#ifndef VELLUMARK_SAVEGAMES_INFO_FILE_H_
+#define VELLUMARK_SAVEGAMES_INFO_FILE_H_
+
+#include <cstdint>
+#include <string>
+
+#include "platform/file_system.h"
+
+namespace vellumark {
+
+struct Program;
+
+enum class InfoMode { kCreate, kAppend };
+
+struct InfoResult {
+  std::int16_t listed = 0;  // savegames in the section
+  FileError error = FileError::kNone;
+};
+
+// Writes the section of one folder into an info file: over an older file, or at its end.
+InfoResult WriteInfoSection(Program& program, const std::string& folder,
+                            const std::string& info_file, InfoMode mode);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_SAVEGAMES_INFO_FILE_H_

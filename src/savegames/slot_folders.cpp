@@ -1,0 +1,63 @@
+#include "savegames/slot_folders.h"
+
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/paths.h"
+#include "savegames/slot_listing.h"
+#include "savegames/slot_names.h"
+
+namespace vellumark {
+namespace {
+
+void AddMatching(FileSystem& files, const std::string& folder, const std::string& pattern,
+                 std::vector<std::string>& paths) {
+  for (const FolderEntry& entry : files.List(folder + pattern).entries) {
+    if (entry.plain) paths.push_back(InFolder(folder, entry.name));
+  }
+}
+
+}  // namespace
+
+SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::string& target,
+                     int max_savegame) {
+  SlotCopies copies;
+  const auto copy = [&](const std::string& name) {
+    const std::string from = InFolder(source, name);
+    const std::string to = InFolder(target, name);
+    FileError why = FileError::kNone;
+    if (CopyFileReplacing(files, from, to, &why)) {
+      copies.targets.push_back(to);
+    } else {
+      copies.failures.push_back({from, why});
+    }
+  };
+
+  const Listing listing = files.List(InFolder(source, "*"));
+  for (const Slot& slot : SlotsOf(listing, max_savegame).slots) {
+    copy(SavegameFileName(slot.number));
+    ++copies.count;
+    copies.HighestCopiedSlot = static_cast<std::int16_t>(slot.number);
+    if (slot.note != nullptr) copy(NoteFileName(slot.number));
+    if (slot.shot != nullptr) copy(ShotFileName(slot.number));
+  }
+  return copies;
+}
+
+std::vector<Failure> ClearSlots(FileSystem& files, const std::string& folder) {
+  std::vector<Failure> failures;
+  for (const std::string& path : FilesOfSlots(files, folder)) {
+    const FileError error = files.Delete(path);
+    if (error != FileError::kNone) failures.push_back({path, error});
+  }
+  return failures;
+}
+
+std::vector<std::string> FilesOfSlots(FileSystem& files, const std::string& folder) {
+  std::vector<std::string> paths;
+  AddMatching(files, folder, LoadMessage(314), paths);
+  AddMatching(files, folder, LoadMessage(316), paths);
+  AddMatching(files, folder, LoadMessage(318), paths);
+  return paths;
+}
+
+}  // namespace vellumark

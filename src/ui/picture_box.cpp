@@ -1,0 +1,58 @@
+#include "ui/picture_box.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/file_system.h"
+
+namespace vellumark {
+namespace {
+
+constexpr QSize kLeastSize(240, 180);
+
+}  // namespace
+
+PictureBox::PictureBox(FileSystem& files, QWidget* parent) : QWidget(parent), files_(files) {}
+
+void PictureBox::ShowFile(const std::string& path) {
+  picture_ = {};
+  scaled_ = {};
+  if (!path.empty()) {
+    const ReadResult read = files_.Read(path, FileSystem::kWholeFile);
+    picture_.loadFromData(reinterpret_cast<const uchar*>(read.bytes.data()),
+                          static_cast<int>(read.bytes.size()));
+  }
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+  if (picture_.isNull()) return;
+
+  const QRect area = PictureArea();
+  const QSize pixels = (QSizeF(area.size()) * devicePixelRatioF()).toSize();
+  if (scaled_.size() != pixels) {
+    scaled_ = QPixmap::fromImage(
+        picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    scaled_.setDevicePixelRatio(devicePixelRatioF());
+  }
+  QPainter(this).drawPixmap(area.topLeft(), scaled_);
+}
+
+ShotBox::ShotBox(FileSystem& files, QWidget* parent) : PictureBox(files, parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setMinimumSize(kLeastSize);
+}
+
+QRect ShotBox::PictureArea() const {
+  QRect area(QPoint(), QSize(4, 3).scaled(size(), Qt::KeepAspectRatio));
+  area.moveCenter(rect().center());
+  return area;
+}
+
+void ShotBox::resizeEvent(QResizeEvent* event) {
+  PictureBox::resizeEvent(event);
+  const int highest = std::max(kLeastSize.height(), window()->height() / 2);
+  setFixedHeight(std::min(width() * 3 / 4, highest));
+}
+
+}  // namespace vellumark

@@ -1,0 +1,54 @@
+// An area that shows a picture, scaled to fill it.
+#ifndef VELLUMARK_UI_PICTURE_BOX_H_
+#define VELLUMARK_UI_PICTURE_BOX_H_
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+#include <string>
+
+namespace vellumark {
+
+class FileSystem;
+
+class PictureBox : public QWidget {
+  Q_OBJECT
+
+ public:
+  PictureBox(FileSystem& files, QWidget* parent);
+
+  // Shows the picture of a file; an empty path, or a file that is no readable picture, shows none.
+  void ShowFile(const std::string& path);
+
+  const QImage& Picture() const { return picture_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+  // Where the picture is painted.
+  virtual QRect PictureArea() const { return rect(); }
+
+ private:
+  FileSystem& files_;
+  QImage picture_;
+  QPixmap scaled_;  // the picture at the size it was painted last
+};
+
+// The picture in the main window: always 4:3, as wide as its place, but not higher than about half
+// of the window.
+class ShotBox final : public PictureBox {
+  Q_OBJECT
+
+ public:
+  ShotBox(FileSystem& files, QWidget* parent);
+
+  QSize sizeHint() const override { return {320, 240}; }
+
+ protected:
+  QRect PictureArea() const override;
+  void resizeEvent(QResizeEvent* event) override;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_UI_PICTURE_BOX_H_

@@ -1,0 +1,291 @@
+#include "ui/principale.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "archive/archive_commands.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/shut_down.h"
+#include "game/capture.h"
+#include "platform/qt/qt_text.h"
+#include "program.h"
+#include "savegames/details.h"
+#include "savegames/list_line.h"
+#include "ui/caption_setter.h"
+#include "ui/commands.h"
+#include "ui/picture_box.h"
+#include "ui/savegame_list.h"
+#include "ui/screen_shot_viewer.h"
+
+namespace vellumark {
+namespace {
+
+constexpr int kTimerInterval = 500;  // milliseconds
+
+template <typename Widget>
+Widget* Named(Widget* widget, const char* name) {
+  widget->setObjectName(QLatin1String(name));
+  return widget;
+}
+
+// A field that shows a text: it can be read, marked and copied, not changed.
+QLineEdit* ReadOnlyField(const char* name, QWidget* parent) {
+  auto* field = Named(new QLineEdit(parent), name);
+  field->setReadOnly(true);
+  return field;
+}
+
+QLineEdit* NumberField(const char* name, QWidget* parent, const QString& widest) {
+  auto* field = ReadOnlyField(name, parent);
+  field->setAlignment(Qt::AlignCenter);
+  field->setFixedWidth(field->fontMetrics().horizontalAdvance(widest) + 24);
+  return field;
+}
+
+QLabel* LabelFor(const char* name, QWidget* buddy) {
+  auto* label = Named(new QLabel(buddy->parentWidget()), name);
+  label->setBuddy(buddy);
+  return label;
+}
+
+QPushButton* Button(const char* name, QWidget* parent) {
+  auto* button = Named(new QPushButton(parent), name);
+  button->setAutoDefault(false);
+  return button;
+}
+
+}  // namespace
+
+Principale::Principale(FileSystem& files, const Text& text) : files_(files), text_(text) {
+  setObjectName(QStringLiteral("Principale"));
+  BuildMenus();
+  BuildCentre();
+  NameControlsWithoutCaption();
+  timer_.setObjectName(QStringLiteral("Timer1"));
+  timer_.setInterval(kTimerInterval);
+  resize(1120, 700);
+  list_->setFocus();
+}
+
+void Principale::Attach(Program& program) {
+  program_ = &program;
+  connect(list_, &SavegameList::SelectionTouched, this, [this] { RefreshDetails(*program_); });
+  for (const Command& command : Commands()) Connect(command);
+  connect(&timer_, &QTimer::timeout, this, [this] { OnTimer(*program_); });
+  timer_.start();
+}
+
+void Principale::BuildMenus() {
+  for (const Command& command : Commands()) {
+    if (command.menu == nullptr) continue;
+    const QString name = QLatin1String(command.menu);
+    auto* menu = menuBar()->findChild<QMenu*>(name);
+    if (menu == nullptr) menu = Named(menuBar()->addMenu(name), command.menu);
+    if (QLatin1String(command.item) == QLatin1String("-")) {
+      menu->addSeparator();
+      continue;
+    }
+    auto* action = Named(new QAction(this), command.item);
+    action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+    menu->addAction(action);
+  }
+}
+
+void Principale::BuildCentre() {
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  auto* splitter = new QSplitter(Qt::Horizontal, centre);
+  splitter->setChildrenCollapsible(false);
+  list_ = Named(new SavegameList(splitter), "List1");
+  list_->setMinimumWidth(320);
+  splitter->addWidget(list_);
+  splitter->addWidget(BuildDetails());
+  splitter->setStretchFactor(0, 1);
+  splitter->setStretchFactor(1, 0);
+  splitter->setSizes({740, 350});
+  column->addWidget(splitter, 1);
+  column->addWidget(BuildPathLine());
+  column->addWidget(BuildBottomLine());
+  setCentralWidget(centre);
+}
+
+QWidget* Principale::BuildDetails() {
+  auto* details = new QWidget(this);
+  auto* column = new QVBoxLayout(details);
+  column->setContentsMargins(0, 0, 0, 0);
+  picture_ = Named(new ShotBox(files_, details), "Image1");
+  note_ = Named(new QPlainTextEdit(details), "Text_Note");
+  note_->setReadOnly(true);
+  note_->setTabChangesFocus(true);
+  note_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  note_->setMinimumHeight(60);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(Button("Pul_Zoom", details));
+  buttons->addWidget(Button("Pul_CambiaProp", details));
+  column->addWidget(picture_);
+  column->addLayout(buttons);
+  column->addWidget(note_, 1);
+  return details;
+}
+
+QWidget* Principale::BuildPathLine() {
+  auto* line = new QWidget(this);
+  auto* row = new QHBoxLayout(line);
+  row->setContentsMargins(0, 0, 0, 0);
+  path_ = ReadOnlyField("Text_PathSavegame", line);
+  row->addWidget(LabelFor("Label4", path_));
+  row->addWidget(path_, 1);
+  return line;
+}
+
+QWidget* Principale::BuildBottomLine() {
+  auto* line = new QWidget(this);
+  auto* row = new QHBoxLayout(line);
+  row->setContentsMargins(0, 0, 0, 0);
+  total_savegames_ = NumberField("Text_TotSavegame", line, QStringLiteral("10001"));
+  total_folders_ = NumberField("Text_TotCartelle", line, QStringLiteral("10001"));
+  found_ = NumberField("Text_Trovati", line, QStringLiteral(" 10001/10001"));
+  auto* previous = Button("Pul_Precedente", line);
+  previous->setText(QStringLiteral("<<"));
+  auto* next = Button("Pul_Seguente", line);
+  next->setText(QStringLiteral(">>"));
+  for (QPushButton* step : {previous, next}) {
+    step->setMaximumWidth(step->fontMetrics().horizontalAdvance(QStringLiteral("<<")) + 32);
+  }
+
+  row->addWidget(LabelFor("Label6", total_savegames_));
+  row->addWidget(total_savegames_);
+  row->addWidget(LabelFor("Label5", total_folders_));
+  row->addWidget(total_folders_);
+  row->addStretch(1);
+  row->addWidget(Button("Pul_Cerca", line));
+  row->addWidget(previous);
+  row->addWidget(found_);
+  row->addWidget(next);
+  row->addStretch(1);
+  row->addWidget(Button("Pul_Play", line));
+  row->addWidget(Button("Pul_StartTomb", line));
+  return line;
+}
+
+void Principale::NameControlsWithoutCaption() {
+  const auto message = [this](int number) { return ToQString(text_, LoadMessage(number)); };
+  list_->setAccessibleName(message(kNameList));
+  note_->setAccessibleName(message(kNameNote));
+  picture_->setAccessibleName(message(kNamePicture));
+  found_->setAccessibleName(message(kNamePosition));
+  const struct {
+    const char* button;
+    int name;
+  } steps[] = {{"Pul_Precedente", kNamePrevious}, {"Pul_Seguente", kNameNext}};
+  for (const auto& step : steps) {
+    auto* button = findChild<QPushButton*>(QLatin1String(step.button));
+    button->setAccessibleName(message(step.name));
+    button->setToolTip(message(step.name));
+  }
+}
+
+// Wires a command to its menu item and its button; one that cannot be carried out is disabled.
+void Principale::Connect(const Command& command) {
+  const bool needs_properties_dialog = command.run == NewArchive;
+  const bool can_run = command.run != nullptr &&
+                       (!needs_properties_dialog || program_->archive_properties != nullptr);
+  if (command.item != nullptr) {
+    if (auto* action = findChild<QAction*>(QLatin1String(command.item))) {
+      const bool exits = action->objectName() == QLatin1String("mnu_Exit");
+      action->setEnabled(can_run || exits);
+      if (exits) {
+        connect(action, &QAction::triggered, this, &QWidget::close);
+      } else {
+        connect(action, &QAction::triggered, this, [this, &command] { Run(command); });
+      }
+    }
+  }
+  if (command.button != nullptr) {
+    auto* button = findChild<QPushButton*>(QLatin1String(command.button));
+    button->setEnabled(can_run);
+    connect(button, &QPushButton::clicked, this, [this, &command] { Run(command); });
+    if (command.item == nullptr && *command.shortcut != '\0') {
+      auto* shortcut = new QShortcut(QKeySequence(QLatin1String(command.shortcut)), this);
+      connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    }
+  }
+}
+
+void Principale::Run(const Command& command) { command.run(*program_); }
+
+void Principale::ShowLines(std::vector<std::string> lines) {
+  QStringList shown;
+  shown.reserve(static_cast<qsizetype>(lines.size()));
+  for (const std::string& line : lines) shown.append(ToDisplayLine(text_, line, kNoteColumn));
+  list_->SetLines(std::move(shown));
+}
+
+void Principale::ReplaceLine(int index, const std::string& line) {
+  list_->ReplaceLine(index, ToDisplayLine(text_, line, kNoteColumn));
+}
+
+std::vector<int> Principale::SelectedLines() const { return list_->SelectedLines(); }
+
+void Principale::SelectLine(int index) { list_->SelectLine(index); }
+
+void Principale::SetField(Field field, const std::string& text) {
+  const QString shown = ToDisplayText(text_, text);
+  switch (field) {
+    case Field::kTotSavegame:
+      return total_savegames_->setText(shown);
+    case Field::kTotCartelle:
+      return total_folders_->setText(shown);
+    case Field::kPathSavegame:
+      return path_->setText(shown);
+    case Field::kTrovati:
+      return found_->setText(shown);
+    case Field::kNote:
+      return note_->setPlainText(shown);
+  }
+}
+
+void Principale::ShowPicture(const std::string& path) { picture_->ShowFile(path); }
+
+void Principale::ShowViewer(const std::string& path) {
+  if (viewer_ == nullptr) {
+    viewer_ = new ScreenShotViewer(files_, this);
+    SetCaptions(WindowId::kDialogScreenShot);
+    connect(viewer_, &QDialog::finished, this, [this] { program_->details.ViewerOpen = false; });
+  }
+  viewer_->ShowPicture(path);
+}
+
+void Principale::SetCaptions(WindowId window) {
+  if (window == WindowId::kPrincipale) {
+    SetWindowCaptions(*this, window, text_);
+  } else if (window == WindowId::kDialogScreenShot && viewer_ != nullptr) {
+    SetWindowCaptions(*viewer_, window, text_);
+  }
+}
+
+void Principale::CloseDialog(WindowId window) {
+  if (window == WindowId::kDialogScreenShot && viewer_ != nullptr) viewer_->close();
+}
+
+void Principale::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (std::exchange(closing_, true)) return;
+  MainWindowClosing(*program_);
+  timer_.stop();
+  emit Closed();
+}
+
+}  // namespace vellumark

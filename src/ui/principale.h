@@ -1,0 +1,86 @@
+// The main window.
+#ifndef VELLUMARK_UI_PRINCIPALE_H_
+#define VELLUMARK_UI_PRINCIPALE_H_
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+
+#include "foundation/windows.h"
+#include "savegames/main_window.h"
+
+class QAbstractButton;
+class QAction;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace vellumark {
+
+struct Command;
+struct Program;
+class FileSystem;
+class SavegameList;
+class ScreenShotViewer;
+class ShotBox;
+class Text;
+
+class Principale final : public QMainWindow, public MainWindow, public Windows {
+  Q_OBJECT
+
+ public:
+  Principale(FileSystem& files, const Text& text);
+
+  // Gives the window the program that its commands work on, and starts the timer. The program must
+  // outlive the window's use.
+  void Attach(Program& program);
+
+  // MainWindow
+  void ShowLines(std::vector<std::string> lines) override;
+  void ReplaceLine(int index, const std::string& line) override;
+  std::vector<int> SelectedLines() const override;
+  void SelectLine(int index) override;
+  void SetField(Field field, const std::string& text) override;
+  void ShowPicture(const std::string& path) override;
+  void ShowViewer(const std::string& path) override;
+
+  // Windows
+  void SetCaptions(WindowId window) override;
+  void CloseDialog(WindowId window) override;
+
+ signals:
+  // The window has closed and shut-down is done.
+  void Closed();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void BuildCentre();
+  QWidget* BuildDetails();
+  QWidget* BuildPathLine();
+  QWidget* BuildBottomLine();
+  void NameControlsWithoutCaption();
+  void Connect(const Command& command);
+  void Run(const Command& command);
+
+  FileSystem& files_;
+  const Text& text_;
+  Program* program_ = nullptr;
+  bool closing_ = false;
+
+  SavegameList* list_ = nullptr;
+  ShotBox* picture_ = nullptr;
+  QPlainTextEdit* note_ = nullptr;
+  QLineEdit* path_ = nullptr;
+  QLineEdit* total_savegames_ = nullptr;
+  QLineEdit* total_folders_ = nullptr;
+  QLineEdit* found_ = nullptr;
+  QTimer timer_;
+  QPointer<ScreenShotViewer> viewer_;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_UI_PRINCIPALE_H_

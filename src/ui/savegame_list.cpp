@@ -1,0 +1,91 @@
+#include "ui/savegame_list.h"
+
+#include <QItemSelectionModel>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+#include <algorithm>
+#include <utility>
+
+#include "ui/savegame_list_model.h"
+
+namespace vellumark {
+namespace {
+
+// Gives every line the same size without looking at it, wide enough for the longest.
+class LineDelegate final : public QStyledItemDelegate {
+ public:
+  LineDelegate(const SavegameListModel& lines, QObject* parent)
+      : QStyledItemDelegate(parent), lines_(lines) {}
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
+    constexpr int kMargin = 4;
+    const int width = option.fontMetrics.horizontalAdvance(u'0');
+    return {static_cast<int>(lines_.LongestLine()) * width + 2 * kMargin,
+            option.fontMetrics.height() + kMargin};
+  }
+
+ private:
+  const SavegameListModel& lines_;
+};
+
+QFont ColumnFont() {
+  QFont font(QStringLiteral("Courier"));
+  font.setStyleHint(QFont::TypeWriter);
+  font.setFixedPitch(true);
+  font.setPointSizeF(9.75);
+  return font;
+}
+
+}  // namespace
+
+SavegameList::SavegameList(QWidget* parent)
+    : QListView(parent), lines_(new SavegameListModel(this)) {
+  setModel(lines_);
+  setItemDelegate(new LineDelegate(*lines_, this));
+  setFont(ColumnFont());
+  setUniformItemSizes(true);
+  setTextElideMode(Qt::ElideNone);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+}
+
+void SavegameList::SetLines(QStringList lines) {
+  const QScopedValueRollback own_change(own_change_, true);
+  lines_->SetLines(std::move(lines));
+}
+
+void SavegameList::ReplaceLine(int index, const QString& line) { lines_->ReplaceLine(index, line); }
+
+std::vector<int> SavegameList::SelectedLines() const {
+  std::vector<int> selected;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) selected.push_back(row);
+  }
+  std::ranges::sort(selected);
+  return selected;
+}
+
+void SavegameList::SelectLine(int index) {
+  const QScopedValueRollback own_change(own_change_, true);
+  const QModelIndex line = lines_->index(index);
+  selectionModel()->setCurrentIndex(line, QItemSelectionModel::ClearAndSelect);
+  scrollTo(line);
+}
+
+void SavegameList::selectionChanged(const QItemSelection& selected,
+                                    const QItemSelection& deselected) {
+  QListView::selectionChanged(selected, deselected);
+  if (own_change_) return;
+  told_ = true;
+  emit SelectionTouched();
+}
+
+void SavegameList::mouseReleaseEvent(QMouseEvent* event) {
+  QListView::mouseReleaseEvent(event);
+  // A click that changed the selection has been told with the change.
+  if (!std::exchange(told_, false) && event->button() == Qt::LeftButton) emit SelectionTouched();
+}
+
+}  // namespace vellumark

@@ -1,0 +1,32 @@
+// The finished lines of the list.
+#ifndef VELLUMARK_UI_SAVEGAME_LIST_MODEL_H_
+#define VELLUMARK_UI_SAVEGAME_LIST_MODEL_H_
+
+#include <QAbstractListModel>
+#include <QStringList>
+
+namespace vellumark {
+
+class SavegameListModel final : public QAbstractListModel {
+  Q_OBJECT
+
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  void SetLines(QStringList lines);
+  void ReplaceLine(int index, const QString& line);
+
+  // The length of the longest line, in characters.
+  qsizetype LongestLine() const { return longest_; }
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+ private:
+  QStringList lines_;
+  qsizetype longest_ = 0;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_UI_SAVEGAME_LIST_MODEL_H_

@@ -1,0 +1,274 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/posix/code_page_choice.h"
+#include "platform/posix/code_page_text.h"
+#include "platform/system_services.h"
+
+namespace vellumark {
+namespace {
+
+constexpr std::array<int, 10> kCodePages = {874,  1250, 1251, 1252, 1253,
+                                            1254, 1255, 1256, 1257, 1258};
+
+CodePageText MakeText(int code_page, std::string_view language = "") {
+  return {code_page, language, false};
+}
+
+std::string AllBytes() {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+  return bytes;
+}
+
+// What a case change makes of a text in UTF-8 that the code page has whole.
+using CaseChange = std::string (Text::*)(std::string_view) const;
+
+std::string Changed(const Text& text, CaseChange change, std::string_view utf8) {
+  const EncodedText encoded = text.FromUtf8(utf8);
+  EXPECT_EQ(encoded.missing, std::vector<std::string>()) << utf8;
+  return text.ToUtf8((text.*change)(encoded.bytes));
+}
+
+bool SameButForCase(const Text& text, std::string_view a, std::string_view b) {
+  return text.EqualNoCase(text.FromUtf8(a).bytes, text.FromUtf8(b).bytes);
+}
+
+TEST(CodePageText, EveryByteOfEveryCodePageComesBackFromUtf8) {
+  const std::string bytes = AllBytes();
+  for (const int code_page : kCodePages) {
+    SCOPED_TRACE(code_page);
+    const CodePageText text = MakeText(code_page);
+    EXPECT_EQ(text.CodePage(), code_page);
+
+    const EncodedText back = text.FromUtf8(text.ToUtf8(bytes));
+    EXPECT_EQ(back.bytes, bytes);
+    EXPECT_TRUE(back.missing.empty());
+  }
+}
+
+TEST(CodePageText, CharactersHaveTheirBytesInEachCodePage) {
+  struct Case {
+    int code_page;
+    std::string_view bytes;
+    std::string_view utf8;
+  };
+  const std::vector<Case> cases = {
+      {874, "\x80\xA1\xE0\xFB", "€กเ๛"},
+      {1250, "\x8E\xE9\xB3\xF8", "Žéłř"},
+      {1251, "\xC7\xC0\xCC\xCE\xCA\xB4", "ЗАМОКґ"},
+      {1252, "\x80\x8E\x9F\xE9", "€ŽŸé"},
+      {1253, "\xD3\xDF\xF2\xA2", "ΣίςΆ"},
+      {1254, "\xF0\xDD\xFD\xDE", "ğİıŞ"},
+      {1255, "\xE0\xFA\xA4", "את₪"},
+      {1256, "\xC7\x81\xED", "اپي"},
+      {1257, "\xED\xDE\xFE", "ķŽž"},
+      {1258, "\xF5\xFD\xFE", "ơư₫"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.code_page);
+    const CodePageText text = MakeText(each.code_page);
+    EXPECT_EQ(text.ToUtf8(each.bytes), each.utf8);
+    EXPECT_EQ(text.FromUtf8(each.utf8).bytes, each.bytes);
+  }
+}
+
+TEST(CodePageText, AnUnknownCodePageGivesWayTo1252) {
+  const CodePageText text(932, "ja", true);
+  EXPECT_EQ(text.CodePage(), 1252);
+  EXPECT_TRUE(text.IsSubstitute());
+  EXPECT_EQ(text.ToUtf8("\xE9"), "é");
+}
+
+TEST(CodePageText, AControlCharacterIsAByteOnlyWhereTheCodePageLeavesThatByteUndefined) {
+  EXPECT_EQ(MakeText(1252).ToUtf8("\x8D"), "\u008D");
+  EXPECT_EQ(MakeText(1252).FromUtf8("\u008D").bytes, "\x8D");
+
+  const EncodedText defined = MakeText(1250).FromUtf8("\u008D");
+  EXPECT_EQ(defined.bytes, "?");
+  EXPECT_EQ(defined.missing, std::vector<std::string>{"\u008D"});
+}
+
+TEST(CodePageText, AnUndefinedByteBeyondTheControlCharactersTakesNoOtherPagesLetter) {
+  EXPECT_EQ(MakeText(1253).FromUtf8("Ò").missing, std::vector<std::string>{"Ò"});
+  EXPECT_EQ(MakeText(1257).FromUtf8("¥").missing, std::vector<std::string>{"¥"});
+}
+
+TEST(CodePageText, MissingCharactersAreNamedOnceInOrder) {
+  const EncodedText encoded =
+      MakeText(1252).FromUtf8("Ключ é К 🗝л — long ASCII tail, К");
+  EXPECT_EQ(encoded.bytes, "???? \xE9 ? ?? \x97 long ASCII tail, ?");
+  EXPECT_EQ(encoded.missing, (std::vector<std::string>{"К", "л", "ю", "ч", "🗝"}));
+}
+
+TEST(CodePageText, EachByteOfInvalidUtf8IsAMissingCharacter) {
+  const std::vector<std::string> replacement = {"\uFFFD"};
+  const std::vector<std::pair<std::string_view, std::string_view>> cases = {
+      {"a\x80z", "a?z"},             // no lead byte
+      {"\xC3", "?"},                 // cut short
+      {"\xE2\x82z", "??z"},          // cut short by a letter
+      {"\xC1\x81", "??"},            // overlong
+      {"\xED\xA0\x80", "???"},       // half a surrogate pair
+      {"\xF4\x90\x80\x80", "????"},  // beyond Unicode
+      {"\xFF", "?"},
+      {"\xC3\xC3\xA9", "?\xE9"},
+  };
+  for (const auto& [utf8, bytes] : cases) {
+    const EncodedText encoded = MakeText(1252).FromUtf8(utf8);
+    EXPECT_EQ(encoded.bytes, bytes);
+    EXPECT_EQ(encoded.missing, replacement);
+  }
+}
+
+TEST(CodePageText, LettersChangeCaseWithinTheCodePage) {
+  struct Case {
+    int code_page;
+    std::string_view upper;
+    std::string_view lower;
+  };
+  const std::vector<Case> cases = {
+      {1250, "ŁÓDŹ ČŘŽ", "łódź čřž"}, {1251, "ЗАМОК ЁЂҐ", "замок ёђґ"}, {1252, "ÉŠŒŸÞ", "éšœÿþ"},
+      {1253, "ΆΈΉΊΌΎΏΫ", "άέήίόύώϋ"}, {1254, "ĞŞÇ I", "ğşç i"},         {1257, "ĶĢŪØ", "ķģūø"},
+      {1258, "ĐƠƯĂ", "đơưă"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.code_page);
+    const CodePageText text = MakeText(each.code_page);
+    EXPECT_EQ(Changed(text, &Text::Lower, each.upper), each.lower);
+    EXPECT_EQ(Changed(text, &Text::Upper, each.lower), each.upper);
+    EXPECT_EQ(Changed(text, &Text::LowerPath, each.upper), each.lower);
+    EXPECT_TRUE(SameButForCase(text, each.upper, each.lower));
+  }
+}
+
+TEST(CodePageText, ACharacterWithoutACounterpartInTheCodePageStays) {
+  EXPECT_EQ(Changed(MakeText(1252), &Text::Upper, "ß×÷ƒµ"), "ß×÷ƒµ");
+  EXPECT_EQ(Changed(MakeText(1252), &Text::Lower, "×÷€"), "×÷€");
+  EXPECT_EQ(Changed(MakeText(1256), &Text::Upper, "éœ"), "éŒ");
+  EXPECT_EQ(Changed(MakeText(1253), &Text::Upper, "ΐΰ"), "ΐΰ");
+}
+
+TEST(CodePageText, TheFinalSigmaIsASigmaInTextAndItsOwnLetterInPaths) {
+  const CodePageText text = MakeText(1253, "el");
+  EXPECT_EQ(Changed(text, &Text::Upper, "σίσυφος"), "ΣΊΣΥΦΟΣ");
+  EXPECT_EQ(Changed(text, &Text::Lower, "ΣΊΣΥΦΟΣ"), "σίσυφοσ");
+  EXPECT_TRUE(SameButForCase(text, "ΣΊΣΥΦΟΣ", "Σίσυφος"));
+  EXPECT_TRUE(SameButForCase(text, "ς", "σ"));
+  EXPECT_EQ(Changed(text, &Text::LowerPath, "Σς"), "σς");
+}
+
+TEST(CodePageText, TurkishRulesHoldForTextAndNeverForPaths) {
+  for (const std::string_view language : {"tr", "az"}) {
+    const CodePageText text = MakeText(1254, language);
+    EXPECT_EQ(Changed(text, &Text::Upper, "iı"), "İI");
+    EXPECT_EQ(Changed(text, &Text::Lower, "İI"), "iı");
+    EXPECT_TRUE(SameButForCase(text, "DIŞ İZ", "dış iz"));
+    EXPECT_FALSE(SameButForCase(text, "I", "i"));
+    EXPECT_EQ(Changed(text, &Text::LowerPath, "IİıiŞ"), "iİıiş");
+  }
+
+  EXPECT_TRUE(SameButForCase(MakeText(1254, "de"), "I", "i"));
+  EXPECT_TRUE(SameButForCase(MakeText(1252, "tr"), "I", "i"));
+}
+
+TEST(CodePageText, NamesOfDifferentLengthsAreNotEqual) {
+  EXPECT_FALSE(MakeText(1252).EqualNoCase("save", "SAVES"));
+  EXPECT_FALSE(MakeText(1252).EqualNoCase("", "a"));
+}
+
+TEST(CodePageText, TheSystemsTextFollowsTheEnvironment) {
+  const char* const before = std::getenv("LC_ALL");
+  const std::string saved = before == nullptr ? "" : before;
+
+  ASSERT_EQ(setenv("LC_ALL", "tr_TR.UTF-8", 1), 0);
+  const auto turkish = MakeSystemText();
+  ASSERT_EQ(setenv("LC_ALL", "ja_JP.UTF-8", 1), 0);
+  const auto japanese = MakeSystemText();
+  if (before == nullptr) {
+    unsetenv("LC_ALL");
+  } else {
+    setenv("LC_ALL", saved.c_str(), 1);
+  }
+
+  EXPECT_EQ(turkish->CodePage(), 1254);
+  EXPECT_FALSE(turkish->IsSubstitute());
+  EXPECT_EQ(Changed(*turkish, &Text::Upper, "i"), "İ");
+  EXPECT_EQ(japanese->CodePage(), 1252);
+  EXPECT_TRUE(japanese->IsSubstitute());
+}
+
+TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
+  struct Case {
+    std::string_view locale;
+    int code_page;
+    bool substitute;
+    std::string_view language;
+  };
+  const std::vector<Case> cases = {
+      {"", 1252, false, ""},
+      {"C", 1252, false, ""},
+      {"C.UTF-8", 1252, false, ""},
+      {"POSIX", 1252, false, ""},
+      {"de_DE.UTF-8@euro", 1252, false, "de"},
+      {"pl_PL.UTF-8", 1250, false, "pl"},
+      {"cs", 1250, false, "cs"},
+      {"hr_HR", 1250, false, "hr"},
+      {"hrx_BR", 1252, false, "hrx"},
+      {"h", 1252, false, "h"},
+      {"sr_RS", 1251, false, "sr"},
+      {"sr_RS@latin", 1250, false, "sr"},
+      {"sr_RS.UTF-8@latin", 1250, false, "sr"},
+      {"sr@latin", 1250, false, "sr"},
+      {"bs_BA.UTF-8", 1250, false, "bs"},
+      {"uz_UZ.UTF-8", 1252, false, "uz"},
+      {"uz_UZ.UTF-8@cyrillic", 1251, false, "uz"},
+      {"RU_RU.KOI8-R", 1251, false, "ru"},
+      {"el_GR", 1253, false, "el"},
+      {"tr_TR.UTF-8", 1254, false, "tr"},
+      {"he_IL", 1255, false, "he"},
+      {"fa_IR", 1256, false, "fa"},
+      {"lt_LT", 1257, false, "lt"},
+      {"vi_VN", 1258, false, "vi"},
+      {"th_TH", 874, false, "th"},
+      {"ja_JP.UTF-8", 1252, true, "ja"},
+      {"zh_TW", 1252, true, "zh"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.locale);
+    const CodePageChoice choice = ChooseCodePage(each.locale);
+    EXPECT_EQ(choice.code_page, each.code_page);
+    EXPECT_EQ(choice.substitute, each.substitute);
+    EXPECT_EQ(choice.language, each.language);
+  }
+}
+
+TEST(CodePageChoice, TheFirstVariableThatIsNotEmptyNamesTheLocale) {
+  std::map<std::string, std::string> variables;
+  const auto locale_name = [&] {
+    return LocaleName([&](const char* name) -> const char* {
+      const auto found = variables.find(name);
+      return found == variables.end() ? nullptr : found->second.c_str();
+    });
+  };
+  EXPECT_EQ(locale_name(), "");
+
+  variables["LANG"] = "pl_PL";
+  variables["LC_ALL"] = "";
+  EXPECT_EQ(locale_name(), "pl_PL");
+
+  variables["LC_CTYPE"] = "el_GR";
+  EXPECT_EQ(locale_name(), "el_GR");
+
+  variables["LC_ALL"] = "C";
+  EXPECT_EQ(locale_name(), "C");
+}
+
+}  // namespace
+}  // namespace vellumark

@@ -1,0 +1,303 @@
+// Looking, listing and places.
+#include "platform/posix/posix_file_system.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/posix/posix_file_system_fixture.h"
+
+namespace vellumark {
+namespace {
+
+namespace stdfs = std::filesystem;
+
+TEST_F(PosixFileSystemTest, FindsNamesInAnyLetterCaseOnTheWholeWay) {
+  host_.Put("Arc/Slot1/savegame.3", "three");
+  host_.Put("\xC3\x84rger.txt", "umlaut");
+
+  EXPECT_EQ(fs_.Read("t:\\arc\\SLOT1\\SaveGame.3", FileSystem::kWholeFile).bytes, "three");
+  EXPECT_EQ(fs_.Read("T:\\\\arc\\slot1\\savegame.3", 2).bytes, "th");
+  EXPECT_EQ(fs_.Read("T:\\\xE4RGER.TXT", FileSystem::kWholeFile).bytes, "umlaut");
+  EXPECT_EQ(fs_.Attributes("T:\\arc\\slot2\\savegame.3").error, FileError::kNotFound);
+  EXPECT_EQ(fs_.Attributes("T:\\arc\\slot1\\savegame.3\\x").error, FileError::kNotFound);
+  EXPECT_TRUE(fs_.Attributes("T:\\ARC\\").attributes.IsBareFolder());
+  EXPECT_TRUE(fs_.Attributes("T:\\ARC\\..\\arc\\slot1\\SAVEGAME.3").attributes.IsPlainFile());
+}
+
+TEST_F(PosixFileSystemTest, TheNameAsSpelledGoesFirstThenTheFirstInByteOrder) {
+  host_.Put("Arc/a", "in Arc");
+  host_.Put("Arc/A", "capital in Arc");
+  host_.Put("arc/b", "in arc");
+  host_.Put("note.txt", "lower");
+  host_.Put("Note.txt", "capital");
+
+  EXPECT_EQ(fs_.Read("T:\\note.txt", 99).bytes, "lower");
+  EXPECT_EQ(fs_.Read("T:\\Note.txt", 99).bytes, "capital");
+  EXPECT_EQ(fs_.Read("T:\\NOTE.txt", 99).bytes, "capital");
+  EXPECT_EQ(fs_.Read("T:\\ARC\\a", 99).bytes, "in Arc");
+  EXPECT_EQ(fs_.Read("T:\\ARC\\A", 99).bytes, "capital in Arc");
+  // What exists as spelled is not searched for elsewhere.
+  EXPECT_EQ(fs_.Read("T:\\arc\\a", 99).error, FileError::kNotFound);
+
+  stdfs::remove(host_ / "note.txt");
+  EXPECT_EQ(fs_.Read("T:\\note.txt", 99).bytes, "capital");
+}
+
+TEST_F(PosixFileSystemTest, ReadsFilesThatAreLongerThanABlock) {
+  std::string bytes(200000, 'x');
+  bytes[65536] = 'y';
+  bytes.back() = 'z';
+  host_.Put("long", bytes);
+  EXPECT_EQ(fs_.Read("T:\\long", FileSystem::kWholeFile).bytes, bytes);
+  EXPECT_EQ(fs_.Read("T:\\long", 65537).bytes, bytes.substr(0, 65537));
+  EXPECT_EQ(fs_.Read("T:\\long", 0).bytes, "");
+
+  const auto reader = fs_.OpenFolder("T:\\");
+  EXPECT_EQ(reader->Read(reader->Contents().entries[0], FileSystem::kWholeFile).bytes, bytes);
+}
+
+TEST_F(PosixFileSystemTest, ReadOnlyIsTheOwnersMissingRightToWrite) {
+  host_.Put("folder/file", "");
+  MakeReadOnly("folder/file");
+  EXPECT_TRUE(fs_.Attributes("T:\\folder\\file").attributes.read_only);
+  EXPECT_FALSE(fs_.Attributes("T:\\folder").attributes.read_only);
+  MakeReadOnly("folder");
+  EXPECT_FALSE(fs_.Attributes("T:\\folder").attributes.IsBareFolder());
+}
+
+TEST_F(PosixFileSystemTest, WhatIsNeitherFileNorFolderIsSeenAndNotTouched) {
+  ASSERT_EQ(mkfifo((host_ / "pipe").c_str(), 0600), 0);
+  stdfs::create_symlink("missing", host_ / "dead");
+
+  for (const std::string name : {"T:\\pipe", "T:\\dead"}) {
+    EXPECT_TRUE(fs_.Attributes(name).attributes.other) << name;
+    EXPECT_EQ(fs_.Read(name, 1).error, FileError::kAccessDenied) << name;
+    EXPECT_EQ(fs_.Append(name, "x"), FileError::kAccessDenied) << name;
+    EXPECT_EQ(fs_.Delete(name), FileError::kAccessDenied) << name;
+    EXPECT_EQ(fs_.Create(name, "x"), FileError::kAlreadyExists) << name;
+  }
+  EXPECT_FALSE(host_.Has("missing"));
+
+  const auto reader = fs_.OpenFolder("T:\\");
+  ASSERT_EQ(reader->Contents().entries.size(), 2U);
+  EXPECT_FALSE(reader->Contents().entries[1].plain);
+  EXPECT_EQ(reader->Read(reader->Contents().entries[1], 1).error, FileError::kAccessDenied);
+}
+
+TEST_F(PosixFileSystemTest, ListsInAlphabeticalOrderWithoutCase) {
+  for (const char* name : {"b.vmk", "A.vmk", "c", "Sub/x", "a2.VMK"}) host_.Put(name, "");
+  stdfs::create_directory_symlink("Sub", host_ / "link");
+
+  EXPECT_EQ(Names("T:\\*"), "A.vmk|a2.VMK|b.vmk|c|link|Sub|");
+  EXPECT_EQ(Names("T:\\"), Names("T:\\*"));
+  EXPECT_EQ(Names("T:\\*.VMK"), "A.vmk|a2.VMK|b.vmk|");
+  EXPECT_EQ(Names("T:\\B.VMK"), "b.vmk|");
+  EXPECT_EQ(Names("T:\\sub\\*"), "x|");
+  EXPECT_EQ(Names("T:\\none*"), "");
+  EXPECT_EQ(fs_.List("T:\\none\\*").error, FileError::kNotFound);
+  EXPECT_EQ(fs_.List("T:\\S*\\x").error, FileError::kBadName);
+
+  const Listing listing = fs_.List("T:\\*");
+  EXPECT_TRUE(listing.entries[0].plain);
+  EXPECT_TRUE(listing.entries[4].folder);
+  EXPECT_FALSE(listing.entries[5].plain);
+}
+
+TEST_F(PosixFileSystemTest, MarksNamesThatDifferByCaseOnly) {
+  for (const char* name : {"tower.vmk", "Tower.vmk", "other", "\xC3\xA4", "\xC3\x84"}) {
+    host_.Put(name, "");
+  }
+  std::string ambiguous;
+  for (const FolderEntry& entry : fs_.List("T:\\*").entries) {
+    if (entry.ambiguous) ambiguous += entry.name + '|';
+  }
+  EXPECT_EQ(ambiguous, "Tower.vmk|tower.vmk|\xC4|\xE4|");
+}
+
+TEST_F(PosixFileSystemTest, NamesThatTheCoreCannotSpeakOfAreListedApart) {
+  host_.Put("good", "");
+  host_.Put("\xE2\x98\x83.txt", "");
+  host_.Put("bad\xFF", "");
+  host_.Put("half\xED\xA0\x80", "");
+  for (const char* name : {"a:b", "con.txt", "dot.", "LPT9", "q?", "tab\t"}) host_.Put(name, "");
+  stdfs::create_directory(host_ / "blank ");
+  host_.Put("com10", "");
+
+  const Listing listing = fs_.List("T:\\*");
+  EXPECT_EQ(Names("T:\\*"), "com10|good|");
+  std::string shown;
+  for (const UnusableName& name : listing.unusable) {
+    shown += name.shown + (name.folder ? "/" : "");
+    shown += name.reason == UnusableName::Reason::kNotInCodePage ? "#|" : "|";
+  }
+  EXPECT_EQ(shown,
+            "LPT9|a:b|bad\xEF\xBF\xBD#|blank /|con.txt|dot.|"
+            "half\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD#|q?|tab\t|\xE2\x98\x83.txt#|");
+  EXPECT_EQ(fs_.List("T:\\*.txt").unusable.size(), 2U);
+}
+
+TEST_F(PosixFileSystemTest, AFolderReaderAnswersLikeListAndRead) {
+  host_.Put("Arc/Slot/savegame.0", "zero");
+  host_.Put("Arc/Slot/Savegame.0", "ZERO");
+  host_.Put("Arc/Slot/\xC3\x9C", "umlaut");
+  host_.Put("Arc/Slot/gone", "");
+
+  const auto top = fs_.OpenFolder("T:\\ARC");
+  ASSERT_EQ(top->Contents().entries.size(), 1U);
+  const auto slot = top->OpenFolder(top->Contents().entries[0]);
+  stdfs::remove(host_ / "Arc/Slot/gone");
+  const std::vector<FolderEntry>& entries = slot->Contents().entries;
+  ASSERT_EQ(entries.size(), 4U);
+
+  EXPECT_EQ(slot->Read(entries[0], 99).error, FileError::kNotFound);
+  for (std::size_t i = 1; i < 4; ++i) {
+    const std::string path = R"(T:\Arc\Slot\)" + entries[i].name;
+    EXPECT_EQ(slot->Read(entries[i], 99).bytes, fs_.Read(path, 99).bytes) << path;
+    EXPECT_EQ(slot->Read(entries[i], 3).bytes, fs_.Read(path, 3).bytes) << path;
+  }
+  const FolderEntry copy = entries[3];
+  EXPECT_EQ(slot->Read(copy, 99).bytes, "umlaut");
+
+  FolderEntry unknown;
+  unknown.name = "unknown";
+  EXPECT_EQ(slot->Read(unknown, 99).error, FileError::kNotFound);
+  EXPECT_EQ(slot->OpenFolder(unknown)->Contents().error, FileError::kNotFound);
+  EXPECT_EQ(top->Read(top->Contents().entries[0], 9).error, FileError::kAccessDenied);
+  EXPECT_EQ(fs_.OpenFolder("T:\\a*")->Contents().error, FileError::kBadName);
+  EXPECT_EQ(fs_.OpenFolder("T:\\none")->Contents().error, FileError::kNotFound);
+  EXPECT_EQ(fs_.OpenFolder("T:\\arc\\slot\\savegame.0")->Contents().error, FileError::kNotFound);
+}
+
+TEST_F(PosixFileSystemTest, ADriveWithoutItsFolderIsNotReady) {
+  EXPECT_EQ(fs_.List("D:\\*").error, FileError::kNotReady);
+  EXPECT_EQ(fs_.Attributes("D:").error, FileError::kNotReady);
+  EXPECT_EQ(fs_.Attributes("D:\\a\\b").error, FileError::kNotReady);
+  EXPECT_EQ(fs_.Create("D:\\a", ""), FileError::kNotReady);
+  EXPECT_EQ(fs_.HostPath("D:\\a"), host_ / "medium/a");
+  EXPECT_EQ(fs_.Attributes("Q:\\a").error, FileError::kNotFound);
+  EXPECT_EQ(fs_.HostPath("Q:\\a"), "");
+
+  const std::vector<Drive> drives = fs_.Drives();
+  ASSERT_EQ(drives.size(), 2U);
+  EXPECT_EQ(drives[0].letter, 'D');
+  EXPECT_EQ(drives[1].label, host_.path());
+
+  host_.Put("medium", "a file");
+  EXPECT_EQ(fs_.List("D:\\*").error, FileError::kNotReady);
+  EXPECT_EQ(fs_.Attributes("D:").error, FileError::kNotReady);
+  stdfs::remove(host_ / "medium");
+  stdfs::create_directory(host_ / "medium");
+  EXPECT_EQ(fs_.List("D:\\*").error, FileError::kNone);
+}
+
+TEST_F(PosixFileSystemTest, OnlyOnePathNamesOneThing) {
+  host_.Put("Arc/a", "");
+  stdfs::create_symlink("Arc/a", host_ / "link");
+  EXPECT_TRUE(fs_.Identity("T:\\arc\\A").has_value());
+  EXPECT_EQ(fs_.Identity("T:\\arc\\A"), fs_.Identity("T:\\link"));
+  EXPECT_NE(fs_.Identity("T:\\arc\\A"), fs_.Identity("T:\\arc"));
+  EXPECT_FALSE(fs_.Identity("T:\\none").has_value());
+}
+
+TEST_F(PosixFileSystemTest, HostPathsHaveTheDisksSpellingAsFarAsTheyExist) {
+  host_.Put("Arc/Slot/a", "");
+  EXPECT_EQ(fs_.HostPath("t:\\arc\\slot\\A"), host_ / "Arc/Slot/a");
+  EXPECT_EQ(fs_.HostPath("T:\\arc\\New\\\xE4"), host_ / "Arc/New/\xC3\xA4");
+  EXPECT_EQ(fs_.HostPath("T:"), host_.path());
+  EXPECT_EQ(fs_.HostPath("T:\\..\\a/b"), "");
+}
+
+TEST_F(PosixFileSystemTest, AHostPathBelongsToTheDriveWithTheLongestFolder) {
+  host_.Put("c/games/x", "");
+  stdfs::create_directory_symlink(host_ / "c", host_ / "to_c");
+  stdfs::create_symlink("x", host_ / "c/games/link");
+  PosixFileSystem fs(text_, DriveMap{{{'C', host_ / "to_c"},
+                                      {'G', host_ / "c/games"},
+                                      {'H', host_ / "c/games"},
+                                      {'Y', host_ / "c/games"},
+                                      {'Z', "/"}}});
+
+  EXPECT_EQ(fs.FromHostPath(host_ / "c/games/x"), "G:\\x");
+  EXPECT_EQ(fs.FromHostPath(host_ / "to_c/./games//none/../x/"), "G:\\x");
+  EXPECT_EQ(fs.FromHostPath(host_ / "c/games/link"), "G:\\link");
+  EXPECT_EQ(fs.FromHostPath(host_ / "c/gamesx"), "C:\\gamesx");
+  EXPECT_EQ(fs.FromHostPath(host_ / "to_c"), "C:");
+  EXPECT_EQ(fs.FromHostPath("/"), "Z:");
+  EXPECT_EQ(fs.FromHostPath("/none/\xC3\xA4"), "Z:\\none\\\xE4");
+  EXPECT_EQ(fs.FromHostPath("/none/a:b"), std::nullopt);
+  EXPECT_EQ(fs.FromHostPath("/none/\xE2\x98\x83"), std::nullopt);
+  EXPECT_EQ(fs_.FromHostPath("/none"), std::nullopt);
+
+  PosixFileSystem equal(text_, DriveMap{{{'Q', host_.path()}, {'Z', host_.path()}}});
+  EXPECT_EQ(equal.FromHostPath(host_ / "c"), "Q:\\c");
+}
+
+// These move the process to another folder.
+class CurrentFolderTest : public PosixFileSystemTest {
+ protected:
+  CurrentFolderTest() : before_(stdfs::current_path()) {
+    host_.Put("Arc/Slot/a", "");
+    stdfs::current_path(host_ / "Arc");
+  }
+  ~CurrentFolderTest() override { stdfs::current_path(before_); }
+
+  stdfs::path before_;
+};
+
+TEST_F(CurrentFolderTest, StartsAsTheWorkingFolderAndTakesTheProcessAlong) {
+  PosixFileSystem fs(text_, DriveMap{{{'T', host_.path()}}});
+  EXPECT_EQ(fs.CurrentFolder(), "T:\\Arc");
+  EXPECT_EQ(fs.Attributes("slot\\a").error, FileError::kNone);
+  EXPECT_EQ(fs.Attributes("T:slot\\..\\slot\\a").error, FileError::kNone);
+  EXPECT_EQ(fs.Attributes("\\arc\\slot\\a").error, FileError::kNone);
+
+  EXPECT_EQ(fs.SetCurrentFolder("slot"), FileError::kNone);
+  EXPECT_EQ(stdfs::current_path(), host_ / "Arc/Slot");
+  EXPECT_EQ(fs.Attributes("a").error, FileError::kNone);
+  EXPECT_EQ(fs.SetCurrentFolder("none"), FileError::kNotFound);
+  EXPECT_EQ(fs.SetCurrentFolder("a"), FileError::kNotFound);
+  EXPECT_EQ(fs.Attributes("a").error, FileError::kNone);
+}
+
+TEST_F(CurrentFolderTest, StartsAtHomeWhenTheCoreCannotNameTheWorkingFolder) {
+  stdfs::create_directory(host_ / "a:b");
+  stdfs::current_path(host_ / "a:b");
+  const DriveMap drives{{{'T', host_.path()}}};
+  EXPECT_EQ(PosixFileSystem(text_, drives, host_ / "Arc").CurrentFolder(), "T:\\Arc");
+  EXPECT_EQ(PosixFileSystem(text_, drives, "/").CurrentFolder(), "Z:");
+}
+
+TEST_F(CurrentFolderTest, ReadsTheCommandLineAsAWindowsPathOrAHostPath) {
+  PosixFileSystem fs(text_, DriveMap{{{'T', host_.path()}}});
+  EXPECT_EQ(fs.FromCommandLine("t:\\x\\..\\y.vmk"), "T:\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine("T:y.vmk"), "T:\\Arc\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine("Q:y.vmk"), "Q:\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine("\\y.vmk"), "T:\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine("saves\\y.vmk"), "T:\\Arc\\saves\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine("saves/y.vmk"), "T:\\Arc\\saves\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine("\xE4.vmk"), "T:\\Arc\\\xE4.vmk");
+  EXPECT_EQ(fs.FromCommandLine(host_ / "y.vmk"), "T:\\y.vmk");
+
+  for (const std::string typed :
+       {"", "/none/y", "~/y", "a\"b", "T:\\a\"b", R"(\\pc\y)", "C:/y", "a/b\\c", "a*"}) {
+    EXPECT_EQ(fs.FromCommandLine(typed), typed);
+  }
+}
+
+TEST_F(PosixFileSystemTest, AFolderHasOneLockAtATime) {
+  host_.Put("Arc/a", "");
+  LockResult first = fs_.LockFolder("T:\\arc");
+  ASSERT_EQ(first.answer, LockAnswer::kTaken);
+  EXPECT_EQ(fs_.LockFolder("T:\\Arc").answer, LockAnswer::kHeldByAnother);
+  first.lock.reset();
+  EXPECT_EQ(fs_.LockFolder("T:\\Arc").answer, LockAnswer::kTaken);
+  EXPECT_EQ(fs_.LockFolder("T:\\Arc\\a").answer, LockAnswer::kUnavailable);
+}
+
+}  // namespace
+}  // namespace vellumark

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include "savegames/info_file.h"
+#include "savegames/notes.h"
+#include "savegames/savegame_header.h"
+#include "savegames/slot_folders.h"
+#include "savegames/slot_listing.h"
+#include "savegames/slot_names.h"
+#include "support/test_world.h"
+
+namespace vellumark {
+namespace {
+
+using testing::SavegameBytes;
+using testing::TestWorld;
+
+std::string LevelNameIn(const std::string& start) {
+  return DecodeSavegameHeader(start + std::string(100, 'x')).level_name;
+}
+
+TEST(SavegameHeaderTest, TheLevelNameEndsAtNulCommaOrCarriageReturnBeforeTheCounter) {
+  EXPECT_EQ(LevelNameIn(std::string("First Level\0rest", 16)), "First Level");
+  EXPECT_EQ(LevelNameIn("Alpha, Beta"), "Alpha");
+  EXPECT_EQ(LevelNameIn("  Tower\r\n"), "Tower");
+  EXPECT_EQ(LevelNameIn(std::string("\0", 1)), "");
+  EXPECT_EQ(LevelNameIn("").size(), 75U);
+  EXPECT_EQ(DecodeSavegameHeader(std::string(80, ' ')).level_name, "");
+}
+
+TEST(SavegameHeaderTest, TheCounterIsSignedAndLittleEndian) {
+  for (const int value : {0, 12, 300, -1, 32767, -32768}) {
+    const auto counter = static_cast<std::int16_t>(value);
+    EXPECT_EQ(DecodeSavegameHeader(SavegameBytes("Tower", counter)).counter, counter);
+  }
+}
+
+TEST(SavegameHeaderTest, AShortFileGivesWhatItHoldsAndCounterZero) {
+  const std::string whole = SavegameBytes("Tower", 257);
+  EXPECT_FALSE(DecodeSavegameHeader(whole.substr(0, 76)).whole);
+  EXPECT_EQ(DecodeSavegameHeader(whole.substr(0, 76)).counter, 0);
+  EXPECT_EQ(DecodeSavegameHeader("Tow").level_name, "Tow");
+  EXPECT_EQ(DecodeSavegameHeader("").level_name, "");
+}
+
+TEST(WriteInternalCounterTest, ChangesTwoBytesInPlaceAndNothingOfAShortFile) {
+  TestWorld world;
+  std::string expected = SavegameBytes("Tower", 12);
+  world.disk.Write("Game/savegame.1", expected);
+  EXPECT_EQ(WriteInternalCounter(world.files, "T:\\Game\\savegame.1", 300), FileError::kNone);
+  expected[75] = 0x2C;
+  expected[76] = 0x01;
+  EXPECT_EQ(world.disk.Read("Game/savegame.1"), expected);
+
+  world.disk.Write("Game/savegame.2", std::string(76, 'x'));
+  EXPECT_NE(WriteInternalCounter(world.files, "T:\\Game\\savegame.2", 300), FileError::kNone);
+  EXPECT_EQ(world.disk.Read("Game/savegame.2"), std::string(76, 'x'));
+}
+
+TEST(NotesTest, AreStoredWithTheirOwnLineBreakAndReadBackWhole) {
+  TestWorld world;
+  const std::string path = "T:\\Game\\note3.txt";
+  EXPECT_EQ(WriteNoteFile(world.files, path, "  first, one\r\nsecond"), FileError::kNone);
+  EXPECT_EQ(world.disk.Read("Game/note3.txt"), "  first, one\x8D\nsecond\r\n");
+  EXPECT_EQ(ReadNoteFile(world.files, path), "  first, one\x8D\nsecond");
+  EXPECT_EQ(NoteForTextBox("first\x8D\nsecond"), "first\r\nsecond");
+
+  EXPECT_EQ(WriteNoteFile(world.files, path, ""), FileError::kNone);
+  EXPECT_EQ(world.disk.Read("Game/note3.txt"), "\r\n");
+  EXPECT_EQ(ReadNoteFile(world.files, path), "");
+  EXPECT_EQ(DecodeNote("no line end"), "no line end");
+  EXPECT_EQ(DecodeNote(""), "");
+}
+
+TEST(SlotsOfTest, FindsWhatTestingEachNumberWouldFind) {
+  TestWorld world;
+  for (const char* name : {"SAVEGAME.3", "savegame.10", "savegame.16", "savegame.03", "savegame.",
+                           "savegame.bak", "savegame.1x", "Note3.TXT", "note10.txt.bak",
+                           "shot5.jpg", "SHOT10.JPG", "savegame.99999999999"}) {
+    world.disk.Write(std::string("Game/") + name, "x");
+  }
+  world.disk.MakeFolder("Game/savegame.4");
+
+  const Listing listing = world.files.List("T:\\Game\\*");
+  const SlotListing found = SlotsOf(listing, 15);
+  ASSERT_EQ(found.slots.size(), 2U);
+  EXPECT_EQ(found.slots[0].number, 3);
+  EXPECT_EQ(found.slots[0].note->name, "Note3.TXT");
+  EXPECT_EQ(found.slots[0].shot, nullptr);
+  EXPECT_EQ(found.slots[1].number, 10);
+  EXPECT_EQ(found.slots[1].note, nullptr);
+  EXPECT_EQ(found.slots[1].shot->name, "SHOT10.JPG");
+  EXPECT_TRUE(SlotsOf(listing, -1).slots.empty());
+}
+
+TEST(SlotsOfTest, LeavesOutNamesThatDifferByCaseOnly) {
+  TestWorld world;
+  world.disk.Write("Game/savegame.1", "a");
+  world.disk.Write("Game/SAVEGAME.1", "b");
+  const SlotListing found = SlotsOf(world.files.List("T:\\Game\\*"), 15);
+  EXPECT_TRUE(found.slots.empty());
+  EXPECT_EQ(found.ambiguous.size(), 2U);
+}
+
+TEST(CopySlotsTest, TakesCompanionsOfSavegamesOnly) {
+  TestWorld world;
+  for (const char* name : {"savegame.0", "note0.txt", "shot3.jpg", "savegame.5", "savegame.16"}) {
+    world.disk.Write(std::string("Game/") + name, std::string("content of ") + name);
+  }
+  const SlotCopies copies = CopySlots(world.files, "T:\\Game", "T:\\Archive", 15);
+  EXPECT_EQ(copies.count, 2);
+  EXPECT_EQ(copies.HighestCopiedSlot, 5);
+  EXPECT_TRUE(copies.failures.empty());
+  EXPECT_EQ(world.disk.Names("Archive"),
+            (std::vector<std::string>{"note0.txt", "savegame.0", "savegame.5"}));
+  EXPECT_EQ(world.disk.Read("Archive/savegame.5"), "content of savegame.5");
+}
+
+TEST(CopySlotsTest, CountsAndNamesWhatFailedAndGoesOn) {
+  TestWorld world;
+  world.AddSavegame("Game", 0, "A", 1);
+  world.AddSavegame("Game", 4, "B", 2);
+  world.files.FailAlways("Copy", "savegame.0", FileError::kDiskFull);
+  const SlotCopies copies = CopySlots(world.files, "T:\\Game", "T:\\Archive", 15);
+  EXPECT_EQ(copies.count, 2);
+  EXPECT_EQ(copies.HighestCopiedSlot, 4);
+  ASSERT_EQ(copies.failures.size(), 1U);
+  EXPECT_EQ(copies.failures[0].path, "T:\\Game\\savegame.0");
+  EXPECT_EQ(copies.failures[0].why, FileError::kDiskFull);
+  EXPECT_EQ(world.disk.Names("Archive"), std::vector<std::string>{"savegame.4"});
+}
+
+TEST(ClearSlotsTest, DeletesByPatternAndNamesWhatStays) {
+  TestWorld world;
+  for (const char* name : {"savegame.3", "SAVEGAME.bak", "notes.txt", "shotgun.jpg", "info.txt"}) {
+    world.disk.Write(std::string("Game/") + name, "x");
+  }
+  world.disk.Write("Game/note1.txt", "locked");
+  world.disk.MakeReadOnly("Game/note1.txt");
+
+  const std::vector<Failure> failures = ClearSlots(world.files, "T:\\Game");
+  ASSERT_EQ(failures.size(), 1U);
+  EXPECT_EQ(failures[0].path, "T:\\Game\\note1.txt");
+  EXPECT_EQ(world.disk.Names("Game"),
+            (std::vector<std::string>{"info.txt", "note1.txt", "tomb4.exe"}));
+}
+
+TEST(InfoSectionTest, ListsTheSlotsInTheirColumns) {
+  TestWorld world;
+  Program program = world.NewProgram();
+  program.archive.settings.MaxSavegame = 15;
+  world.AddSavegame("Archive/Slot1", 3, "Tower ", 12);
+  world.AddSavegame("Archive/Slot1", 12, "Old Tower", -3);
+  world.AddSavegame("Archive/Slot1", 16, "Beyond", 1);
+
+  const std::string section =
+      "T:\\ARCHIVE\\SLOT1\r\n-----------------\r\n\r\r\n"
+      "savegame.3  12  Tower\r\nsavegame.12 -3  Old Tower\r\n\r\r\n";
+  const std::string info = "T:\\Archive\\info.txt";
+  EXPECT_EQ(WriteInfoSection(program, "T:\\Archive\\Slot1", info, InfoMode::kAppend).listed, 2);
+  EXPECT_EQ(world.disk.Read("Archive/info.txt"), section);
+  WriteInfoSection(program, "T:\\Archive\\Slot1", info, InfoMode::kAppend);
+  EXPECT_EQ(world.disk.Read("Archive/info.txt"), section + section);
+  WriteInfoSection(program, "T:\\Archive\\Slot1", info, InfoMode::kCreate);
+  EXPECT_EQ(world.disk.Read("Archive/info.txt"), section);
+
+  const InfoResult none = WriteInfoSection(program, "T:\\None", info, InfoMode::kCreate);
+  EXPECT_EQ(none.listed, 0);
+  EXPECT_EQ(world.disk.Read("Archive/info.txt"), "T:\\NONE\r\n--------\r\n\r\r\n\r\r\n");
+}
+
+}  // namespace
+}  // namespace vellumark

@@ -1,0 +1,58 @@
+#include "support/scripted_desktop.h"
+
+#include <utility>
+
+namespace vellumark::testing {
+namespace {
+
+std::optional<std::string> TakeAnswer(std::deque<std::optional<std::string>>& answers) {
+  if (answers.empty()) return std::nullopt;
+  auto answer = std::move(answers.front());
+  answers.pop_front();
+  return answer;
+}
+
+}  // namespace
+
+BoxAnswer ScriptedMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxIcon icon) {
+  shown.push_back({text, buttons, icon});
+  if (while_waiting) while_waiting();
+  if (buttons == BoxButtons::kOk) return BoxAnswer::kOk;
+  if (answers.empty()) return buttons == BoxButtons::kYesNo ? BoxAnswer::kYes : BoxAnswer::kOk;
+  const BoxAnswer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+std::string ScriptedMessageBoxes::AllTexts() const {
+  std::string all;
+  for (const Shown& box : shown) all += box.text + "\n";
+  return all;
+}
+
+std::optional<std::string> ScriptedFileDialogs::Open(const FileDialogRequest& request) {
+  requests.push_back(request);
+  return TakeAnswer(answers);
+}
+
+std::optional<std::string> ScriptedFileDialogs::Save(const FileDialogRequest& request) {
+  requests.push_back(request);
+  return TakeAnswer(answers);
+}
+
+bool RecordedShell::Open(const std::string& document, const std::string& parameters,
+                         const std::string& working_folder, bool hidden) {
+  opened.push_back({document, parameters, working_folder, hidden});
+  return answer;
+}
+
+void ScriptedWindows::ShowLines(std::vector<std::string> new_lines) {
+  lines = std::move(new_lines);
+  selected.clear();
+}
+
+void ScriptedWindows::ReplaceLine(int index, const std::string& line) {
+  lines.at(static_cast<std::size_t>(index)) = line;
+}
+
+}  // namespace vellumark::testing

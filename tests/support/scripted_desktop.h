@@ -1,0 +1,93 @@
+// The windows and services of a program under test: they answer by script and remember what they
+// were asked.
+#ifndef VELLUMARK_TESTS_SUPPORT_SCRIPTED_DESKTOP_H_
+#define VELLUMARK_TESTS_SUPPORT_SCRIPTED_DESKTOP_H_
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "foundation/windows.h"
+#include "platform/file_dialogs.h"
+#include "platform/message_boxes.h"
+#include "platform/shell.h"
+#include "platform/sound_player.h"
+#include "savegames/main_window.h"
+
+namespace vellumark::testing {
+
+class ScriptedMessageBoxes final : public MessageBoxes {
+ public:
+  struct Shown {
+    std::string text;
+    BoxButtons buttons;
+    BoxIcon icon;
+  };
+
+  BoxAnswer Show(const std::string& text, BoxButtons buttons, BoxIcon icon) override;
+
+  std::vector<Shown> shown;
+  std::deque<BoxAnswer> answers;        // for the next questions; without one, the default button
+  std::function<void()> while_waiting;  // what happens while the user looks at a box
+
+  // All texts, one after the other.
+  std::string AllTexts() const;
+};
+
+class ScriptedFileDialogs final : public FileDialogs {
+ public:
+  std::optional<std::string> Open(const FileDialogRequest& request) override;
+  std::optional<std::string> Save(const FileDialogRequest& request) override;
+
+  std::vector<FileDialogRequest> requests;
+  std::deque<std::optional<std::string>> answers;  // without one, the user cancels
+};
+
+class RecordedSounds final : public SoundPlayer {
+ public:
+  void Play(const std::string& host_path) override { played.push_back(host_path); }
+
+  std::vector<std::string> played;
+};
+
+class RecordedShell final : public Shell {
+ public:
+  bool Open(const std::string& document, const std::string& parameters,
+            const std::string& working_folder, bool hidden) override;
+
+  struct Opened {
+    std::string document;
+    std::string parameters;
+    std::string working_folder;
+    bool hidden;
+  };
+  std::vector<Opened> opened;
+  bool answer = true;
+};
+
+class ScriptedWindows final : public MainWindow, public Windows {
+ public:
+  void ShowLines(std::vector<std::string> new_lines) override;
+  void ReplaceLine(int index, const std::string& line) override;
+  std::vector<int> SelectedLines() const override { return selected; }
+  void SelectLine(int index) override { selected = {index}; }
+  void SetField(Field field, const std::string& text) override { fields[field] = text; }
+  void ShowPicture(const std::string& path) override { picture = path; }
+  void ShowViewer(const std::string& path) override { viewer = path; }
+  void SetCaptions(WindowId window) override { events.push_back({"captions", window}); }
+  void CloseDialog(WindowId window) override { events.push_back({"close", window}); }
+
+  std::vector<std::string> lines;
+  std::vector<int> selected;
+  std::map<Field, std::string> fields;
+  std::string picture;
+  std::string viewer;
+  std::vector<std::pair<std::string, WindowId>> events;
+};
+
+}  // namespace vellumark::testing
+
+#endif  // VELLUMARK_TESTS_SUPPORT_SCRIPTED_DESKTOP_H_

@@ -1,0 +1,41 @@
+// A folder of the real disk for one test.
+#ifndef VELLUMARK_TESTS_SUPPORT_TEMPORARY_FOLDER_H_
+#define VELLUMARK_TESTS_SUPPORT_TEMPORARY_FOLDER_H_
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vellumark::testing {
+
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  const std::filesystem::path& path() const { return path_; }
+
+  // Paths are relative to the folder, with slashes. Folders on the way are made.
+  void Write(const std::string& file, std::string_view bytes) const;
+  std::string Read(const std::string& file) const;
+  bool Exists(const std::string& file) const;
+  void MakeFolder(const std::string& folder) const;
+  void MakeReadOnly(const std::string& file) const;
+
+  // The names in a folder, sorted.
+  std::vector<std::string> Names(const std::string& folder) const;
+
+  // Every file below the folder with its content.
+  std::map<std::string, std::string> AllFiles() const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace vellumark::testing
+
+#endif  // VELLUMARK_TESTS_SUPPORT_TEMPORARY_FOLDER_H_

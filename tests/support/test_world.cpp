@@ -1,0 +1,65 @@
+#include "support/test_world.h"
+
+#include "archive/archive_file.h"
+#include "foundation/preferences_file.h"
+
+namespace vellumark::testing {
+
+std::string SavegameBytes(const std::string& level, std::int16_t counter, int seed) {
+  static constexpr std::string_view kLeftovers = ",\rQx\xE9,\x8D\r\nab\xFF;,\r";
+  std::string bytes = level + '\0';
+  while (bytes.size() < 75) bytes += kLeftovers[bytes.size() % kLeftovers.size()];
+  const auto word = static_cast<std::uint16_t>(counter);
+  bytes += static_cast<char>(word & 0xFF);
+  bytes += static_cast<char>(word >> 8);
+  bytes += std::string(2, '\0');
+  for (int i = 0; i < 400; ++i) bytes += static_cast<char>((i * 7 + seed * 31 + counter) & 0xFF);
+  return bytes;
+}
+
+TestWorld::TestWorld() : real_files(text, {{{'T', disk.path().string()}}}), files(real_files) {
+  disk.MakeFolder("Program");
+  disk.MakeFolder("Game");
+  disk.MakeFolder("Archive");
+  disk.Write("Program/default_shot.jpg", "picture");
+  disk.Write("Game/tomb4.exe", "game");
+}
+
+Program TestWorld::NewProgram() {
+  Program program{.files = files,
+                  .text = text,
+                  .boxes = boxes,
+                  .file_dialogs = dialogs,
+                  .sounds = sounds,
+                  .shell = shell,
+                  .windows = windows,
+                  .main_window = windows};
+  program.paths.ProgramFolder = "T:\\Program";
+  return program;
+}
+
+void TestWorld::WriteArchiveFile() const {
+  ArchiveSettings settings;
+  settings.SubfolderBaseName = "Slot";
+  settings.MainFolder = "T:\\Archive";
+  settings.GameFolder = "T:\\Game";
+  settings.GameExecutable = "T:\\Game\\tomb4.exe";
+  settings.MaxSavegame = 15;
+  disk.Write("Archive.vmk", EncodeArchive(settings));
+}
+
+void TestWorld::WritePreferences(bool sounds_on, bool all_subfolders) const {
+  Preferences preferences;
+  preferences.LastArchive = "T:\\Archive.vmk";
+  preferences.ShotFolder = "T:\\Program";
+  preferences.SoundEffects = sounds_on;
+  preferences.ScanAllSubfolders = all_subfolders;
+  disk.Write("Program/manager.prf", EncodePreferences(preferences));
+}
+
+void TestWorld::AddSavegame(const std::string& folder, int slot, const std::string& level,
+                            std::int16_t counter) const {
+  disk.Write(folder + "/savegame." + std::to_string(slot), SavegameBytes(level, counter, slot));
+}
+
+}  // namespace vellumark::testing

@@ -1,0 +1,49 @@
+// A program under test on a disk of its own: drive T: is a temporary folder with the program in
+// T:\Program, the game in T:\Game and an archive in T:\Archive.
+#ifndef VELLUMARK_TESTS_SUPPORT_TEST_WORLD_H_
+#define VELLUMARK_TESTS_SUPPORT_TEST_WORLD_H_
+
+#include <cstdint>
+#include <string>
+
+#include "platform/posix/code_page_text.h"
+#include "platform/posix/posix_file_system.h"
+#include "program.h"
+#include "support/faulty_file_system.h"
+#include "support/scripted_desktop.h"
+#include "support/temporary_folder.h"
+
+namespace vellumark::testing {
+
+// The bytes of a savegame file as the game writes them: the name, leftovers of memory up to the
+// counter, and content that differs with `seed`.
+std::string SavegameBytes(const std::string& level, std::int16_t counter, int seed = 0);
+
+class TestWorld {
+ public:
+  TestWorld();
+
+  // A new run of the program on the same disk.
+  Program NewProgram();
+
+  // Writes T:\Archive.vmk with this world's folders, and a preferences file that names it.
+  void WriteArchiveFile() const;
+  void WritePreferences(bool sounds = false, bool all_subfolders = false) const;
+
+  void AddSavegame(const std::string& folder, int slot, const std::string& level,
+                   std::int16_t counter) const;
+
+  TemporaryFolder disk;
+  CodePageText text{1252, "en", false};
+  PosixFileSystem real_files;
+  FaultyFileSystem files;
+  ScriptedMessageBoxes boxes;
+  ScriptedFileDialogs dialogs;
+  RecordedSounds sounds;
+  RecordedShell shell;
+  ScriptedWindows windows;
+};
+
+}  // namespace vellumark::testing
+
+#endif  // VELLUMARK_TESTS_SUPPORT_TEST_WORLD_H_

@@ -1,0 +1,171 @@
+// Message boxes, file dialogs, the shell and sounds by Qt.
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_shell.h"
+#include "platform/qt/qt_sound_player.h"
+#include "support/test_world.h"
+
+namespace vellumark {
+
+class QtServicesTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void MessageBoxesAnswerKeys_data();
+  void MessageBoxesAnswerKeys();
+  void MessageBoxesShowTextAsItIs();
+  void TheTimerRunsWhileABoxWaits();
+  void FileDialogsStartWhereTheyAreTold();
+  void FileDialogsExplainAPathThatCannotBeUsed();
+  void FiltersAreWrittenAsQtWants();
+  void TheShellRefusesWhatIsMissing();
+  void SoundsNeedNeitherDeviceNorModule();
+
+ private:
+  // Does something to the dialog that comes up next.
+  template <typename Dialog>
+  void WithNext(const std::function<void(Dialog*)>& act) {
+    QTimer::singleShot(50, this, [this, act] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) {
+        WithNext<Dialog>(act);
+      } else {
+        act(dialog);
+      }
+    });
+  }
+
+  testing::TestWorld world_;
+};
+
+void QtServicesTest::MessageBoxesAnswerKeys_data() {
+  QTest::addColumn<int>("buttons");
+  QTest::addColumn<int>("key");
+  QTest::addColumn<int>("answer");
+  const auto row = [](const char* name, BoxButtons buttons, Qt::Key key, BoxAnswer answer) {
+    QTest::newRow(name) << static_cast<int>(buttons) << static_cast<int>(key)
+                        << static_cast<int>(answer);
+  };
+  row("Enter is Yes", BoxButtons::kYesNo, Qt::Key_Return, BoxAnswer::kYes);
+  row("Escape is No", BoxButtons::kYesNo, Qt::Key_Escape, BoxAnswer::kNo);
+  row("Enter is OK", BoxButtons::kOkCancel, Qt::Key_Return, BoxAnswer::kOk);
+  row("Escape is Cancel", BoxButtons::kOkCancel, Qt::Key_Escape, BoxAnswer::kCancel);
+  row("Escape leaves a notice", BoxButtons::kOk, Qt::Key_Escape, BoxAnswer::kOk);
+}
+
+void QtServicesTest::MessageBoxesAnswerKeys() {
+  QFETCH(const int, buttons);
+  QFETCH(const int, key);
+  QFETCH(const int, answer);
+  WithNext<QMessageBox>([key](QMessageBox* box) {
+    QCOMPARE(box->windowTitle(), QStringLiteral("Vellumark"));
+    QTest::keyClick(box, static_cast<Qt::Key>(key));
+  });
+  QtMessageBoxes boxes(world_.text);
+  const BoxAnswer given =
+      boxes.Show("text", static_cast<BoxButtons>(buttons), BoxIcon::kExclamation);
+  QCOMPARE(static_cast<int>(given), answer);
+}
+
+void QtServicesTest::MessageBoxesShowTextAsItIs() {
+  WithNext<QMessageBox>([](QMessageBox* box) {
+    QCOMPARE(box->text(), QString::fromUtf8("<b>\u00E9</b>\ntwo\nthree"));
+    QCOMPARE(box->textFormat(), Qt::PlainText);
+    QCOMPARE(box->icon(), QMessageBox::NoIcon);
+    box->accept();
+  });
+  QtMessageBoxes(world_.text).Show("<b>\xE9</b>\rtwo\r\nthree", BoxButtons::kOk, BoxIcon::kNone);
+}
+
+void QtServicesTest::TheTimerRunsWhileABoxWaits() {
+  int ticks = 0;
+  QTimer timer;
+  connect(&timer, &QTimer::timeout, this, [&ticks] {
+    if (++ticks == 3) QApplication::activeModalWidget()->close();
+  });
+  timer.start(20);
+  QtMessageBoxes(world_.text).Show("waiting", BoxButtons::kOk, BoxIcon::kCritical);
+  QCOMPARE(ticks, 3);
+}
+
+void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  world_.disk.Write("Saves/old.vmk", "x");
+  QtFileDialogs dialogs(world_.files, world_.text, world_.boxes);
+  WithNext<QFileDialog>([this](QFileDialog* dialog) {
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Save it"));
+    QCOMPARE(dialog->directory().path().toStdString(), (world_.disk.path() / "Saves").string());
+    QVERIFY(dialog->testOption(QFileDialog::DontConfirmOverwrite));
+    QCOMPARE(dialog->selectedFiles().constFirst().toStdString(),
+             (world_.disk.path() / "Saves/old.vmk").string());
+    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("new name"));
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  const auto saved = dialogs.Save({.title = "Save it",
+                                   .filter = "Vellumark archive (*.vmk)|*.vmk",
+                                   .start_folder = "T:\\Saves",
+                                   .initial_name = "T:\\Saves\\old.vmk"});
+  QCOMPARE(saved.value_or("nothing"), std::string("T:\\Saves\\new name"));
+
+  WithNext<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
+  QVERIFY(!dialogs.Open({.title = "", .filter = "x|*", .start_folder = "T:\\None"}).has_value());
+}
+
+void QtServicesTest::FileDialogsExplainAPathThatCannotBeUsed() {
+  const QString name = QString::fromUtf8("\u0416.vmk");
+  world_.disk.Write(name.toStdString(), "x");
+  QtFileDialogs dialogs(world_.files, world_.text, world_.boxes);
+  WithNext<QFileDialog>([name](QFileDialog* dialog) {
+    dialog->findChild<QLineEdit*>()->setText(name);
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  QVERIFY(!dialogs.Save({.title = "", .filter = "x|*", .start_folder = "T:"}).has_value());
+  QCOMPARE(world_.boxes.shown.size(), std::size_t{1});
+}
+
+void QtServicesTest::FiltersAreWrittenAsQtWants() {
+  QCOMPARE(QtFilter(QStringLiteral("Jpeg files (*.jpg)|*.jpg")),
+           QStringLiteral("Jpeg files (*.jpg)"));
+  QCOMPARE(QtFilter(QStringLiteral("Vellumark archive (.vmk)|*.vmk")),
+           QStringLiteral("Vellumark archive (.vmk) (*.vmk)"));
+}
+
+void QtServicesTest::TheShellRefusesWhatIsMissing() {
+  QVERIFY(!QtShell().Open("", "", "", false));
+  QVERIFY(!QtShell().Open((world_.disk.path() / "none.exe").string(), "", "", false));
+
+  world_.disk.Write("script", "#!/bin/sh\necho \"$1 $PWD\" > done\n");
+  std::filesystem::permissions(world_.disk.path() / "script", std::filesystem::perms::owner_all);
+  QVERIFY(QtShell().Open((world_.disk.path() / "script").string(), "argument",
+                         (world_.disk.path() / "Game").string(), false));
+  QTRY_VERIFY(world_.disk.Exists("Game/done") && !world_.disk.Read("Game/done").empty());
+  QCOMPARE(world_.disk.Read("Game/done"),
+           "argument " + (world_.disk.path() / "Game").string() + "\n");
+}
+
+void QtServicesTest::SoundsNeedNeitherDeviceNorModule() {
+  QtSoundPlayer nowhere(QStringLiteral("/nonexistent"));
+  nowhere.Play("/nonexistent/s1.wav");
+
+  const QDir program(QCoreApplication::applicationDirPath() + QStringLiteral("/../Vellumark"));
+  QVERIFY(QFile::exists(program.filePath(QStringLiteral("libvellumark_sound.so"))));
+  QtSoundPlayer player(program.path());
+  for (const char* sound : {"s7.wav", "s5.wav", "missing.wav"}) {
+    player.Play(program.filePath(QLatin1String(sound)).toStdString());
+    QTest::qWait(20);
+  }
+}
+
+}  // namespace vellumark
+
+QTEST_MAIN(vellumark::QtServicesTest)
+#include "qt_services_test.moc"
