@@ -66,8 +66,9 @@ void ReportProblems(Program& program, const ScannedCatalogue& scanned) {
   }
   if (!scanned.ambiguous.empty()) {
     std::vector<Failure> names;
-    for (const std::string& path : scanned.ambiguous)
+    for (const std::string& path : scanned.ambiguous) {
       names.push_back({path, FileError::kAmbiguous});
+    }
     add(LoadMessage(kAmbiguousNames) + DescribeFailures(names));
   }
   if (!scanned.failures.empty()) {

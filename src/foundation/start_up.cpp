@@ -105,10 +105,8 @@ void OfferImport(Program& program) {
   if (program.catalogue.EntryCount() == 0) return;
 
   const bool nothing_archived = program.catalogue.entries.front().FolderNumber == 0;
-  if (nothing_archived) {
-    ImportSavegames(program);
-  } else if (HasNewSavegames(program.catalogue) &&
-             AskYesNo(program, LoadMessage(299, {kLineBreak, kLineBreak}))) {
+  if (nothing_archived || (HasNewSavegames(program.catalogue) &&
+                           AskYesNo(program, LoadMessage(299, {kLineBreak, kLineBreak})))) {
     ImportSavegames(program);
   }
 }

@@ -19,9 +19,7 @@ std::string Trimmed(std::string_view text) {
 
 std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
-std::string WithLeadingBlank(int number) {
-  return std::string(" ").append(std::to_string(number));
-}
+std::string WithLeadingBlank(int number) { return std::string(" ").append(std::to_string(number)); }
 
 bool EqualsIgnoringAsciiCase(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, AsciiLower, AsciiLower);

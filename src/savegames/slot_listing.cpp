@@ -38,11 +38,18 @@ std::optional<int> NumberIn(std::string_view name, std::string_view prefix,
 }
 
 std::optional<SlotFile> Recognise(const FolderEntry& entry) {
-  const std::string_view name = entry.name;
-  if (const auto n = NumberIn(name, "savegame.", ""))
-    return {{*n, SlotFileKind::kSavegame, &entry}};
-  if (const auto n = NumberIn(name, "note", ".txt")) return {{*n, SlotFileKind::kNote, &entry}};
-  if (const auto n = NumberIn(name, "shot", ".jpg")) return {{*n, SlotFileKind::kShot, &entry}};
+  static constexpr struct {
+    std::string_view prefix;
+    std::string_view ending;
+    SlotFileKind kind;
+  } kForms[] = {{"savegame.", "", SlotFileKind::kSavegame},
+                {"note", ".txt", SlotFileKind::kNote},
+                {"shot", ".jpg", SlotFileKind::kShot}};
+  for (const auto& form : kForms) {
+    if (const auto number = NumberIn(entry.name, form.prefix, form.ending)) {
+      return SlotFile{*number, form.kind, &entry};
+    }
+  }
   return std::nullopt;
 }
 

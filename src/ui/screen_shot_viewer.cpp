@@ -43,6 +43,12 @@ void ScreenShotViewer::resizeEvent(QResizeEvent* event) {
   if (!isMinimized()) FitPicture();
 }
 
+// The window manager puts its frame around a new window by moving it; only then is the frame known.
+void ScreenShotViewer::moveEvent(QMoveEvent* event) {
+  QDialog::moveEvent(event);
+  if (!isMinimized()) FitPicture();
+}
+
 void ScreenShotViewer::FitPicture() {
   const QSize window = frameGeometry().size();
   picture_->setGeometry(0, 0, std::max(0, window.width() - kSpareWidth),

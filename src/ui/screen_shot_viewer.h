@@ -21,6 +21,7 @@ class ScreenShotViewer final : public QDialog {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
 
  private:
   void FitPicture();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "archive/archive_file.h"
 #include "foundation/preferences_file.h"
 #include "foundation/shut_down.h"
@@ -10,7 +12,6 @@
 namespace vellumark {
 namespace {
 
-using testing::SavegameBytes;
 using testing::TestWorld;
 
 class StartUpTest : public ::testing::Test {
