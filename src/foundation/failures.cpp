@@ -36,7 +36,7 @@ std::string ReasonFor(FileError error) {
 }
 
 std::string DescribeFailures(const std::vector<Failure>& failures) {
-  constexpr std::size_t kMostLines = 60;
+  constexpr std::size_t kMostLines = 200;
   std::string text;
   for (const Failure& failure : failures) {
     if (&failure - failures.data() == kMostLines) {

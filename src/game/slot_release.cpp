@@ -18,7 +18,9 @@ class Releaser {
       : files_(files), game_folder_(game_folder), subfolder_(subfolder), copies_(copies) {}
 
   SlotRelease Release() {
-    release_.flush = files_.Flush(copies_.targets);
+    std::vector<std::string> written = copies_.targets;
+    written.push_back(subfolder_);
+    release_.flush = files_.Flush(written);
     const int highest = copies_.HighestCopiedSlot;
     for (int slot = 0; slot < highest; ++slot) {
       if (!FileExists(files_, InGame(SavegameFileName(slot)))) continue;

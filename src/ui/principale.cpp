@@ -72,6 +72,7 @@ Principale::Principale(FileSystem& files, const Text& text) : files_(files), tex
   setObjectName(QStringLiteral("Principale"));
   BuildMenus();
   BuildCentre();
+  SetTabOrder();
   NameControlsWithoutCaption();
   timer_.setObjectName(QStringLiteral("Timer1"));
   timer_.setInterval(kTimerInterval);
@@ -178,6 +179,29 @@ QWidget* Principale::BuildBottomLine() {
   row->addWidget(Button("Pul_Play", line));
   row->addWidget(Button("Pul_StartTomb", line));
   return line;
+}
+
+// The reading order: the list, the details beside it, the lines below from left to right.
+void Principale::SetTabOrder() {
+  const char* const order[] = {"List1",
+                               "Pul_Zoom",
+                               "Pul_CambiaProp",
+                               "Text_Note",
+                               "Text_PathSavegame",
+                               "Text_TotSavegame",
+                               "Text_TotCartelle",
+                               "Pul_Cerca",
+                               "Pul_Precedente",
+                               "Text_Trovati",
+                               "Pul_Seguente",
+                               "Pul_Play",
+                               "Pul_StartTomb"};
+  QWidget* previous = nullptr;
+  for (const char* name : order) {
+    auto* control = findChild<QWidget*>(QLatin1String(name));
+    if (previous != nullptr) setTabOrder(previous, control);
+    previous = control;
+  }
 }
 
 void Principale::NameControlsWithoutCaption() {

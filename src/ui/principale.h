@@ -61,6 +61,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   QWidget* BuildDetails();
   QWidget* BuildPathLine();
   QWidget* BuildBottomLine();
+  void SetTabOrder();
   void NameControlsWithoutCaption();
   void Connect(const Command& command);
   void Run(const Command& command);

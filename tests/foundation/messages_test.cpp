@@ -57,7 +57,7 @@ TEST(OwnMessagesTest, EveryReasonHasWords) {
 }
 
 TEST(OwnMessagesTest, LongListsOfFailuresSayHowManyAreLeftOut) {
-  const std::vector<Failure> failures(100, {"C:\\x", FileError::kDiskFull});
+  const std::vector<Failure> failures(240, {"C:\\x", FileError::kDiskFull});
   const std::string text = DescribeFailures(failures);
   EXPECT_TRUE(text.starts_with("\r\n\"C:\\x\": the disk is full")) << text;
   EXPECT_TRUE(text.ends_with("... and 40 more")) << text;

@@ -32,6 +32,7 @@ class PrincipaleTest : public QObject {
 
   void CaptionsAreTheMessagesByteForByte();
   void AccessKeysDoNotClash();
+  void TabFollowsTheReadingOrder();
   void EveryControlCanBeTold();
   void CommandsThatAreNotBuiltAreDisabled();
   void KeysChangeTheDetailsAsClicksDo();
@@ -148,6 +149,19 @@ void PrincipaleTest::AccessKeysDoNotClash() {
   }
   QVERIFY(!window_keys.contains(QChar()));
   QCOMPARE(QSet<QChar>(window_keys.begin(), window_keys.end()).size(), window_keys.size());
+}
+
+void PrincipaleTest::TabFollowsTheReadingOrder() {
+  Start();
+  window_->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+  QVERIFY(Find<SavegameList>("List1")->hasFocus());
+  // Disabled buttons are passed over.
+  for (const char* next : {"Pul_Zoom", "Text_Note", "Text_PathSavegame", "Text_TotSavegame",
+                           "Text_TotCartelle", "Text_Trovati", "List1"}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(next));
+  }
 }
 
 void PrincipaleTest::EveryControlCanBeTold() {

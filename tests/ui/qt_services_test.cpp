@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
@@ -23,6 +24,7 @@ class QtServicesTest : public QObject {
   void MessageBoxesAnswerKeys_data();
   void MessageBoxesAnswerKeys();
   void MessageBoxesShowTextAsItIs();
+  void ALongTextScrolls();
   void TheTimerRunsWhileABoxWaits();
   void FileDialogsStartWhereTheyAreTold();
   void FileDialogsExplainAPathThatCannotBeUsed();
@@ -84,6 +86,19 @@ void QtServicesTest::MessageBoxesShowTextAsItIs() {
     box->accept();
   });
   QtMessageBoxes(world_.text).Show("<b>\xE9</b>\rtwo\r\nthree", BoxButtons::kOk, BoxIcon::kNone);
+}
+
+void QtServicesTest::ALongTextScrolls() {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "line " + std::to_string(i) + "\r\n";
+  WithNext<QMessageBox>([](QMessageBox* box) {
+    auto* whole = box->findChild<QTextEdit*>();
+    QVERIFY(whole != nullptr && whole->isVisible());
+    QVERIFY(whole->toPlainText().contains(QLatin1String("line 99")));
+    QVERIFY(box->height() < 600);
+    box->accept();
+  });
+  QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kExclamation);
 }
 
 void QtServicesTest::TheTimerRunsWhileABoxWaits() {

@@ -9,9 +9,9 @@
 
 #include "platform/file_system.h"
 #include "platform/posix/drive_map.h"
-#include "platform/posix/path_lookup_names.h"
-#include "platform/posix/path_lookup_variants.h"
-#include "platform/posix/path_lookup_windows_path.h"
+#include "platform/posix/host_names.h"
+#include "platform/posix/name_variants.h"
+#include "platform/posix/windows_path.h"
 
 namespace vellumark {
 

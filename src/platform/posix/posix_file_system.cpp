@@ -11,10 +11,10 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/posix/drive_map_from_host.h"
+#include "platform/posix/descriptor_io.h"
 #include "platform/posix/file_error.h"
-#include "platform/posix/posix_file_system_io.h"
-#include "platform/posix/posix_file_system_reader.h"
+#include "platform/posix/host_path.h"
+#include "platform/posix/posix_folder_reader.h"
 
 namespace vellumark {
 namespace {

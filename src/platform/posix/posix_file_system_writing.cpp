@@ -10,11 +10,11 @@
 #include <set>
 #include <utility>
 
+#include "platform/posix/descriptor_io.h"
 #include "platform/posix/file_error.h"
+#include "platform/posix/free_name_rename.h"
+#include "platform/posix/new_file.h"
 #include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_file_system_io.h"
-#include "platform/posix/posix_file_system_new_file.h"
-#include "platform/posix/posix_file_system_rename.h"
 
 namespace vellumark {
 namespace {

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_message_boxes.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 #include "platform/qt/opener.h"
@@ -32,6 +33,20 @@ QMessageBox::Icon IconFor(BoxIcon icon) {
   return QMessageBox::Warning;
 }
 
+// A text of many lines would make the box higher than the screen: the box then shows its beginning,
+// and the whole text below in a field that scrolls.
+void SetLongText(QMessageBox& box, const QString& text) {
+  constexpr int kMostLines = 14;
+  constexpr int kLinesAbove = 4;
+  if (text.count(u'\n') < kMostLines) return;
+
+  box.setText(text.section(u'\n', 0, kLinesAbove - 1) + QStringLiteral("\n..."));
+  box.setDetailedText(text);
+  for (QAbstractButton* button : box.buttons()) {
+    if (box.buttonRole(button) == QMessageBox::ActionRole) button->click();
+  }
+}
+
 }  // namespace
 
 BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxIcon icon) {
@@ -39,6 +54,7 @@ BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxI
                   ButtonsFor(buttons), ModalOpener());
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  SetLongText(box, box.text());
   const bool asks = buttons == BoxButtons::kYesNo;
   box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
   if (asks) box.setEscapeButton(QMessageBox::No);

@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/posix/free_name_rename.h"
 #include "platform/posix/posix_file_system_fixture.h"
-#include "platform/posix/posix_file_system_rename.h"
 
 namespace vellumark {
 namespace {

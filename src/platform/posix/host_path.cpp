@@ -1,4 +1,4 @@
-#include "platform/posix/drive_map_from_host.h"
+#include "platform/posix/host_path.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,6 @@
 // An open folder of the host and the names in it.
-#ifndef VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_DIRECTORY_H_
-#define VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_DIRECTORY_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_HOST_DIRECTORY_H_
+#define VELLUMARK_PLATFORM_POSIX_HOST_DIRECTORY_H_
 
 #include <dirent.h>
 
@@ -35,4 +35,4 @@ class Directory {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_DIRECTORY_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_HOST_DIRECTORY_H_

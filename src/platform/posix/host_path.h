@@ -1,13 +1,13 @@
 // From the host's paths to the core's: by the drive that they lie on.
-#ifndef VELLUMARK_PLATFORM_POSIX_DRIVE_MAP_FROM_HOST_H_
-#define VELLUMARK_PLATFORM_POSIX_DRIVE_MAP_FROM_HOST_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_HOST_PATH_H_
+#define VELLUMARK_PLATFORM_POSIX_HOST_PATH_H_
 
 #include <optional>
 #include <string>
 
 #include "platform/posix/drive_map.h"
-#include "platform/posix/path_lookup_names.h"
-#include "platform/posix/path_lookup_windows_path.h"
+#include "platform/posix/host_names.h"
+#include "platform/posix/windows_path.h"
 
 namespace vellumark {
 
@@ -20,4 +20,4 @@ std::optional<WindowsPath> WindowsPathFromHost(const std::string& host_path, con
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_DRIVE_MAP_FROM_HOST_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_HOST_PATH_H_

@@ -1,6 +1,6 @@
 // Finds a name in a host folder without regard to letter case.
-#ifndef VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_VARIANTS_H_
-#define VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_VARIANTS_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_NAME_VARIANTS_H_
+#define VELLUMARK_PLATFORM_POSIX_NAME_VARIANTS_H_
 
 #include <sys/stat.h>
 
@@ -10,7 +10,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "platform/posix/path_lookup_names.h"
+#include "platform/posix/host_names.h"
 
 namespace vellumark {
 
@@ -59,4 +59,4 @@ class VariantFinder {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_PATH_LOOKUP_VARIANTS_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_NAME_VARIANTS_H_

@@ -1,4 +1,4 @@
-#include "platform/posix/path_lookup_directory.h"
+#include "platform/posix/host_directory.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "platform/posix/path_lookup_names.h"
+#include "platform/posix/host_names.h"
 
 #include <algorithm>
 #include <cstddef>

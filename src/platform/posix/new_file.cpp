@@ -1,4 +1,4 @@
-#include "platform/posix/posix_file_system_new_file.h"
+#include "platform/posix/new_file.h"
 
 #include <fcntl.h>
 #include <unistd.h>

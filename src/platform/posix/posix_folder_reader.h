@@ -1,6 +1,6 @@
 // Listing host folders, and reading the files of a folder that is held open.
-#ifndef VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_READER_H_
-#define VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_READER_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_POSIX_FOLDER_READER_H_
+#define VELLUMARK_PLATFORM_POSIX_POSIX_FOLDER_READER_H_
 
 #include <cstddef>
 #include <memory>
@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "platform/file_system.h"
-#include "platform/posix/path_lookup_directory.h"
-#include "platform/posix/path_lookup_names.h"
+#include "platform/posix/host_directory.h"
+#include "platform/posix/host_names.h"
 
 namespace vellumark {
 
@@ -46,4 +46,4 @@ class PosixFolderReader final : public FolderReader {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_READER_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_POSIX_FOLDER_READER_H_

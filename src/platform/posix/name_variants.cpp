@@ -1,9 +1,9 @@
-#include "platform/posix/path_lookup_variants.h"
+#include "platform/posix/name_variants.h"
 
 #include <cerrno>
 #include <utility>
 
-#include "platform/posix/path_lookup_directory.h"
+#include "platform/posix/host_directory.h"
 
 namespace vellumark {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/posix/posix_file_system_io.h"
+#include "platform/posix/descriptor_io.h"
 
 #include <unistd.h>
 

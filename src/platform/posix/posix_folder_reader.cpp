@@ -1,4 +1,4 @@
-#include "platform/posix/posix_file_system_reader.h"
+#include "platform/posix/posix_folder_reader.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,8 +9,8 @@
 #include <tuple>
 #include <utility>
 
+#include "platform/posix/descriptor_io.h"
 #include "platform/posix/file_error.h"
-#include "platform/posix/posix_file_system_io.h"
 #include "platform/posix/wildcard.h"
 
 namespace vellumark {

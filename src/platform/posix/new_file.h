@@ -1,10 +1,10 @@
 // A file in the making.
-#ifndef VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_NEW_FILE_H_
-#define VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_NEW_FILE_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_NEW_FILE_H_
+#define VELLUMARK_PLATFORM_POSIX_NEW_FILE_H_
 
 #include <string>
 
-#include "platform/posix/posix_file_system_io.h"
+#include "platform/posix/descriptor_io.h"
 
 namespace vellumark {
 
@@ -32,4 +32,4 @@ class NewFile {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_NEW_FILE_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_NEW_FILE_H_

@@ -1,7 +1,7 @@
 // Bytes in and out of open files, with the short transfers and interruptions that the system
 // calls allow themselves.
-#ifndef VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_IO_H_
-#define VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_IO_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_DESCRIPTOR_IO_H_
+#define VELLUMARK_PLATFORM_POSIX_DESCRIPTOR_IO_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -55,4 +55,4 @@ int CopyAll(int from, int to);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_IO_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_DESCRIPTOR_IO_H_

@@ -1,6 +1,6 @@
 // Giving a file another name without ever replacing one.
-#ifndef VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_RENAME_H_
-#define VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_RENAME_H_
+#ifndef VELLUMARK_PLATFORM_POSIX_FREE_NAME_RENAME_H_
+#define VELLUMARK_PLATFORM_POSIX_FREE_NAME_RENAME_H_
 
 #include <string>
 
@@ -17,4 +17,4 @@ int RenameToFreeNameInSteps(const std::string& from, const std::string& to);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_POSIX_FILE_SYSTEM_RENAME_H_
+#endif  // VELLUMARK_PLATFORM_POSIX_FREE_NAME_RENAME_H_

@@ -1,4 +1,4 @@
-#include "platform/posix/posix_file_system_rename.h"
+#include "platform/posix/free_name_rename.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

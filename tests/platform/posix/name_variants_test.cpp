@@ -1,4 +1,4 @@
-#include "platform/posix/path_lookup_variants.h"
+#include "platform/posix/name_variants.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 
 #include "platform/posix/code_page_text.h"
 #include "platform/posix/host_folder.h"
-#include "platform/posix/path_lookup_names.h"
+#include "platform/posix/host_names.h"
 
 namespace vellumark {
 namespace {

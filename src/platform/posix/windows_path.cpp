@@ -1,9 +1,9 @@
-#include "platform/posix/path_lookup_windows_path.h"
+#include "platform/posix/windows_path.h"
 
 #include <algorithm>
 #include <cstddef>
 
-#include "platform/posix/path_lookup_names.h"
+#include "platform/posix/host_names.h"
 
 namespace vellumark {
 namespace {
