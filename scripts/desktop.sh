@@ -1,5 +1,17 @@
 # Driving a program's windows on an X display; sourced by scripts that do.
 
+# Starts a window manager and returns when it is at work: a window that appears while it starts may
+# never be shown. Sets `manager` to its process.
+start_window_manager() {
+  local deadline=$((SECONDS + 30))
+  openbox >/dev/null 2>&1 &
+  manager=$!
+  until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
+    [ $SECONDS -lt $deadline ] || { echo "The window manager does not start." >&2; return 1; }
+    sleep 0.1
+  done
+}
+
 # Waits until a visible window has a title that matches a pattern and prints its number.
 wait_for_window() {
   local deadline=$((SECONDS + 30)) found
