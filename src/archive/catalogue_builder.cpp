@@ -139,7 +139,9 @@ class Builder {
     entry.NotePath = folder + names.note;
     entry.ShotPath = folder + names.shot;
     result_.has_shot.push_back(slot.shot != nullptr);
-    if (!header.whole) result_.failures.push_back({entry.SavegamePath, head.error});
+    if (head.error != FileError::kNone) {
+      result_.failures.push_back({entry.SavegamePath, head.error});
+    }
 
     if (slot.note == nullptr) return;
     ReadResult note = reader.Read(*slot.note, FileSystem::kWholeFile);

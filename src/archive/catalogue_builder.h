@@ -22,7 +22,7 @@ struct CatalogueRequest {
 struct ScannedCatalogue {
   Catalogue catalogue;
   std::vector<bool> has_shot;          // for each entry: its screen-shot existed
-  std::vector<Failure> failures;       // folders and files that could not be read as they should
+  std::vector<Failure> failures;       // folders and files that could not be read
   std::vector<std::string> ambiguous;  // paths left out: another name differs by case only
   std::vector<std::string> leftovers;  // temporary files of a run that was cut off
   bool table_full = false;             // there was more than a catalogue can hold

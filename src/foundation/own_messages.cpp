@@ -50,7 +50,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kAmbiguousNames,
      "Warning: these names exist twice in their folder, in upper and lower case. They are not "
      "listed and will not be deleted. Please rename one of each:"},
-    {kScanFailures, "Warning: these could not be read, or only in part:"},
+    {kScanFailures, "Warning: these could not be read:"},
 
     {kSubfolderNotMade,
      "The new sub-folder ~1 could not be created: ~2.~3Nothing has been imported, and nothing has "

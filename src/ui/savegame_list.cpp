@@ -82,10 +82,15 @@ void SavegameList::selectionChanged(const QItemSelection& selected,
   emit SelectionTouched();
 }
 
+void SavegameList::mousePressEvent(QMouseEvent* event) {
+  told_ = false;
+  QListView::mousePressEvent(event);
+}
+
 void SavegameList::mouseReleaseEvent(QMouseEvent* event) {
   QListView::mouseReleaseEvent(event);
   // A click that changed the selection has been told with the change.
-  if (!std::exchange(told_, false) && event->button() == Qt::LeftButton) emit SelectionTouched();
+  if (!told_ && event->button() == Qt::LeftButton) emit SelectionTouched();
 }
 
 }  // namespace vellumark

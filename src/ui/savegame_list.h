@@ -26,6 +26,7 @@ class SavegameList final : public QListView {
 
  protected:
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:

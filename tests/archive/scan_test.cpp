@@ -119,15 +119,24 @@ TEST_F(ScanTest, OfNothingIsAnEmptyList) {
   EXPECT_TRUE(program.archive.ArchiveChanged);
 }
 
-TEST_F(ScanTest, ShowsWhatCanBeReadOfAShortSavegameAndSaysSo) {
+TEST_F(ScanTest, ShowsWhatCanBeReadOfAShortSavegame) {
   world.disk.Write("Archive/Slot1/savegame.0", "Tow");
   world.AddSavegame("Archive/Slot1", 1, "Whole", 7);
   ScanArchive(program);
   ASSERT_EQ(program.catalogue.EntryCount(), 2);
   EXPECT_EQ(program.catalogue.entries[0].LevelName, "Tow");
   EXPECT_EQ(program.catalogue.entries[0].InternalCounter, 0);
+  EXPECT_TRUE(world.boxes.shown.empty()) << "it is the same at every scan";
+}
+
+TEST_F(ScanTest, ListsAndNamesASavegameThatCannotBeRead) {
+  world.AddSavegame("Archive/Slot1", 0, "Locked", 7);
+  world.files.FailAlways("Read", "savegame.0", FileError::kAccessDenied);
+  ScanArchive(program);
+  ASSERT_EQ(program.catalogue.EntryCount(), 1);
+  EXPECT_EQ(program.catalogue.entries[0].LevelName, "");
   ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_NE(world.boxes.shown[0].text.find("\"t:\\archive\\slot1\\savegame.0\": it is too short"),
+  EXPECT_NE(world.boxes.shown[0].text.find("\"t:\\archive\\slot1\\savegame.0\": it is read-only"),
             std::string::npos)
       << world.boxes.shown[0].text;
 }

@@ -214,10 +214,17 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 1, 2}));
 
-  // The third line is clicked first; the selection is in line order all the same.
   const auto line = [list](int row) {
     return list->visualRect(list->model()->index(row, 0)).center();
   };
+
+  // Another click on the same line looks at its files again.
+  QTest::keyClick(list, Qt::Key_Home);
+  world_->disk.Write("Archive/Slot1/shot0.jpg", Jpeg(Qt::blue));
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line(0));
+  QVERIFY(Find<PictureBox>("Image1")->Picture().pixelColor(5, 5).blue() > 200);
+
+  // The third line is clicked first; the selection is in line order all the same.
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line(2));
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, line(0));
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 2}));
