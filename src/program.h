@@ -11,12 +11,12 @@
 #include "foundation/program_paths.h"
 #include "game/capture_state.h"
 #include "game/play_state.h"
+#include "maintenance/folder_chooser_state.h"
 #include "savegames/search_result.h"
 #include "savegames/selection.h"
 
 namespace vellumark {
 
-class ArchivePropertiesDialog;
 class FileDialogs;
 class FileSystem;
 class MainWindow;
@@ -37,9 +37,6 @@ struct Program {
   Windows& windows;
   MainWindow& main_window;
 
-  // Null while the desktop has none; a new archive cannot be made then.
-  ArchivePropertiesDialog* archive_properties = nullptr;
-
   ProgramPaths paths{};
   std::string argument_text{};  // the command line's arguments as one text
   Preferences preferences{};
@@ -51,6 +48,7 @@ struct Program {
   SearchResult search{};
   PlayState play{};
   CaptureState capture{};
+  FolderChooserState chooser{};
 
   // True while an operation works without waiting for the user; the timer does nothing then.
   bool working = false;

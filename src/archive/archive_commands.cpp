@@ -5,7 +5,6 @@
 #include <string>
 
 #include "archive/archive_file.h"
-#include "archive/archive_properties_dialog.h"
 #include "archive/scan.h"
 #include "foundation/failures.h"
 #include "foundation/file_utilities.h"
@@ -16,6 +15,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/windows.h"
 #include "game/import.h"
 #include "game/restore.h"
 #include "platform/file_dialogs.h"
@@ -178,8 +178,7 @@ void NewArchive(Program& program) {
   program.archive.read_in_part.reset();
   program.preferences.LastArchive = program.paths.ProgramFolder + LoadMessage(270);
 
-  program.archive_properties->ImpostaValori();
-  program.archive_properties->ShowModal();
+  program.windows.ShowModal(WindowId::kDialogSetNewArc);
   if (!program.archive.ArchivePropertiesOk) {
     program.archive.settings = kept_archive.settings;
     program.archive.read_in_part = kept_archive.read_in_part;

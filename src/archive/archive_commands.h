@@ -18,7 +18,7 @@ void SaveArchiveAs(Program& program);
 // brings up the question for one.
 void SaveArchiveIfChanged(Program& program);
 
-// Makes a new archive with the archive properties dialog; needs one (Program::archive_properties).
+// Makes a new archive with the archive properties dialog.
 void NewArchive(Program& program);
 
 // Asks for an archive file and opens it. A file that is no whole archive record is refused, and

@@ -128,6 +128,30 @@ constexpr Caption kPrincipale[] = {
 
 }  // namespace
 
+const char* NameOf(WindowId window) {
+  switch (window) {
+    case WindowId::kDialogCattura:
+      return "Dialog_Cattura";
+    case WindowId::kDialogCerca:
+      return "Dialog_Cerca";
+    case WindowId::kDialogGetDir:
+      return "Dialog_GetDir";
+    case WindowId::kDialogNote:
+      return "Dialog_Note";
+    case WindowId::kDialogPref:
+      return "Dialog_Pref";
+    case WindowId::kDialogRiordina:
+      return "Dialog_Riordina";
+    case WindowId::kDialogSetNewArc:
+      return "Dialog_SetNewArc";
+    case WindowId::kDialogScreenShot:
+      return "Dialog_ScreenShot";
+    case WindowId::kPrincipale:
+      break;
+  }
+  return "Principale";
+}
+
 std::span<const Caption> CaptionsOf(WindowId window) {
   switch (window) {
     case WindowId::kDialogCattura:

@@ -19,6 +19,9 @@ enum class WindowId {
   kPrincipale,
 };
 
+// The window's own name, for example Dialog_Cerca.
+const char* NameOf(WindowId window);
+
 struct Caption {
   const char* control;  // the control's object name; empty for the window's title
   int message;

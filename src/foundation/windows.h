@@ -14,6 +14,11 @@ class Windows {
   // when it is needed takes them then.
   virtual void SetCaptions(WindowId window) = 0;
 
+  // Makes a modal dialog, prepares it from the program's state and shows it over the window that is
+  // modal at that moment; returns when it has closed. What its OK did stands in the program's
+  // state.
+  virtual void ShowModal(WindowId dialog) = 0;
+
   // Closes a dialog and releases it; nothing when it is not open.
   virtual void CloseDialog(WindowId window) = 0;
 };

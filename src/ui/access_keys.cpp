@@ -24,8 +24,12 @@ constexpr AccessKey kPrincipaleKeys[] = {
 };
 
 std::span<const AccessKey> KeysOf(WindowId window) {
-  if (window == WindowId::kPrincipale) return kPrincipaleKeys;
-  return {};
+  switch (window) {
+    case WindowId::kPrincipale:
+      return kPrincipaleKeys;
+    default:
+      return {};
+  }
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace vellumark {
 namespace {
 
 constexpr Command kCommands[] = {
-    {"mnu_File", "mnu_New", nullptr, "Ctrl+N", NewArchive},
+    {"mnu_File", "mnu_New", nullptr, "Ctrl+N", nullptr},
     {"mnu_File", "mnu_Load", nullptr, "Ctrl+O", LoadArchive},
     {"mnu_File", "-", nullptr, "", nullptr},
     {"mnu_File", "mnu_Save", nullptr, "Ctrl+S", SaveArchive},

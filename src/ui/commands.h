@@ -13,7 +13,7 @@ struct Command {
   const char* item;       // the menu item's object name
   const char* button;     // the button that does the same, or null
   const char* shortcut;   // in Qt's portable form, or empty
-  void (*run)(Program&);  // null while the command cannot be carried out; it is disabled then
+  void (*run)(Program&);  // null: not available, shown disabled
 };
 
 // In the order of the menus; an item named "-" is a separator. mnu_Exit has no run of its own: it

@@ -14,7 +14,6 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "archive/archive_commands.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/shut_down.h"
@@ -25,6 +24,7 @@
 #include "savegames/list_line.h"
 #include "ui/caption_setter.h"
 #include "ui/commands.h"
+#include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_shot_viewer.h"
@@ -223,9 +223,7 @@ void Principale::NameControlsWithoutCaption() {
 
 // Wires a command to its menu item and its button; one that cannot be carried out is disabled.
 void Principale::Connect(const Command& command) {
-  const bool needs_properties_dialog = command.run == NewArchive;
-  const bool can_run = command.run != nullptr &&
-                       (!needs_properties_dialog || program_->archive_properties != nullptr);
+  const bool can_run = command.run != nullptr;
   if (command.item != nullptr) {
     if (auto* action = findChild<QAction*>(QLatin1String(command.item))) {
       const bool exits = action->objectName() == QLatin1String("mnu_Exit");
@@ -300,8 +298,17 @@ void Principale::SetCaptions(WindowId window) {
   }
 }
 
+void Principale::ShowModal(WindowId dialog) {
+  const std::unique_ptr<ModalDialog> window = MakeModalDialog(dialog, *program_);
+  if (window == nullptr) return;
+  open_dialogs_[dialog] = window.get();
+  window->ImpostaValori();
+  window->exec();
+}
+
 void Principale::CloseDialog(WindowId window) {
   if (window == WindowId::kDialogScreenShot && viewer_ != nullptr) viewer_->close();
+  if (QDialog* dialog = open_dialogs_[window]) dialog->reject();
 }
 
 void Principale::closeEvent(QCloseEvent* event) {

@@ -2,9 +2,11 @@
 #ifndef VELLUMARK_UI_PRINCIPALE_H_
 #define VELLUMARK_UI_PRINCIPALE_H_
 
+#include <QDialog>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <map>
 
 #include "foundation/windows.h"
 #include "savegames/main_window.h"
@@ -46,6 +48,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
 
   // Windows
   void SetCaptions(WindowId window) override;
+  void ShowModal(WindowId dialog) override;
   void CloseDialog(WindowId window) override;
 
  signals:
@@ -80,6 +83,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   QLineEdit* found_ = nullptr;
   QTimer timer_;
   QPointer<ScreenShotViewer> viewer_;
+  std::map<WindowId, QPointer<QDialog>> open_dialogs_;  // those that are shown
 };
 
 }  // namespace vellumark

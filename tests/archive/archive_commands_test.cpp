@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "archive/archive_file.h"
-#include "archive/archive_properties_dialog.h"
 #include "archive/scan.h"
 #include "archive/validation.h"
 #include "support/test_world.h"
@@ -28,6 +27,13 @@ class ArchiveCommandsTest : public ::testing::Test {
 
   ArchiveSettings Stored(const std::string& file) const {
     return DecodeArchive(world.disk.Read(file));
+  }
+
+  // What the archive properties dialog leaves after its OK.
+  void AnswerWithOk() {
+    program.archive.settings.MainFolder = "T:\\Fresh";
+    program.archive.settings.GameFolder = "T:\\Game";
+    program.archive.ArchivePropertiesOk = true;
   }
 
   TestWorld world;
@@ -156,37 +162,18 @@ TEST_F(ArchiveCommandsTest, LoadRefusesWhatIsNoWholeArchiveAndLeavesEverything) 
   EXPECT_EQ(world.boxes.shown.size(), 4U) << "cancelling says nothing";
 }
 
-// Answers with OK after changing the settings, or with Cancel.
-class ScriptedPropertiesDialog final : public ArchivePropertiesDialog {
- public:
-  ScriptedPropertiesDialog(Program& program, bool ok) : program_(program), ok_(ok) {}
-
-  void ImpostaValori() override {
-    prepared_with = program_.archive.settings;
-    prepared_path = program_.preferences.LastArchive;
-    program_.archive.ArchivePropertiesOk = false;
-  }
-  void ShowModal() override {
-    if (!ok_) return;
-    program_.archive.settings.MainFolder = "T:\\Fresh";
-    program_.archive.settings.GameFolder = "T:\\Game";
-    program_.archive.ArchivePropertiesOk = true;
-  }
-
+TEST_F(ArchiveCommandsTest, NewStartsFromItsDefaultsAndTakesTheDialogsOk) {
   ArchiveSettings prepared_with;
   std::string prepared_path;
-
- private:
-  Program& program_;
-  bool ok_;
-};
-
-TEST_F(ArchiveCommandsTest, NewStartsFromItsDefaultsAndTakesTheDialogsOk) {
-  ScriptedPropertiesDialog dialog(program, true);
-  program.archive_properties = &dialog;
+  world.windows.in_dialog = [&](WindowId dialog) {
+    EXPECT_EQ(dialog, WindowId::kDialogSetNewArc);
+    prepared_with = program.archive.settings;
+    prepared_path = program.preferences.LastArchive;
+    AnswerWithOk();
+  };
   NewArchive(program);
-  EXPECT_EQ(dialog.prepared_with, (ArchiveSettings{"Slot", "", "", "", 15, 0}));
-  EXPECT_EQ(dialog.prepared_path, "T:\\Program\\NoName.vmk");
+  EXPECT_EQ(prepared_with, (ArchiveSettings{"Slot", "", "", "", 15, 0}));
+  EXPECT_EQ(prepared_path, "T:\\Program\\NoName.vmk");
   EXPECT_EQ(program.catalogue.EntryCount(), 1) << "the game folder's savegame";
   EXPECT_TRUE(program.archive.ArchiveChanged);
   EXPECT_TRUE(world.boxes.shown.empty());
@@ -194,8 +181,7 @@ TEST_F(ArchiveCommandsTest, NewStartsFromItsDefaultsAndTakesTheDialogsOk) {
 
 TEST_F(ArchiveCommandsTest, NewWithNothingToListTriesToImport) {
   std::filesystem::remove(world.disk.path() / "Game/savegame.0");
-  ScriptedPropertiesDialog dialog(program, true);
-  program.archive_properties = &dialog;
+  world.windows.in_dialog = [this](WindowId) { AnswerWithOk(); };
   NewArchive(program);
   ASSERT_EQ(world.boxes.shown.size(), 1U);
   EXPECT_EQ(world.boxes.shown[0].text,
@@ -204,8 +190,7 @@ TEST_F(ArchiveCommandsTest, NewWithNothingToListTriesToImport) {
 
 TEST_F(ArchiveCommandsTest, NewCancelledPutsTheArchiveBack) {
   const ArchiveSettings before = program.archive.settings;
-  ScriptedPropertiesDialog dialog(program, false);
-  program.archive_properties = &dialog;
+  world.windows.in_dialog = [this](WindowId) { program.archive.ArchivePropertiesOk = false; };
   NewArchive(program);
   EXPECT_EQ(program.archive.settings.MainFolder, before.MainFolder);
   EXPECT_EQ(program.archive.settings.SubfolderBaseName, before.SubfolderBaseName);

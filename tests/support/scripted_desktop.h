@@ -78,6 +78,10 @@ class ScriptedWindows final : public MainWindow, public Windows {
   void ShowPicture(const std::string& path) override { picture = path; }
   void ShowViewer(const std::string& path) override { viewer = path; }
   void SetCaptions(WindowId window) override { events.push_back({"captions", window}); }
+  void ShowModal(WindowId dialog) override {
+    events.push_back({"modal", dialog});
+    if (in_dialog) in_dialog(dialog);
+  }
   void CloseDialog(WindowId window) override { events.push_back({"close", window}); }
 
   std::vector<std::string> lines;
@@ -86,6 +90,7 @@ class ScriptedWindows final : public MainWindow, public Windows {
   std::string picture;
   std::string viewer;
   std::vector<std::pair<std::string, WindowId>> events;
+  std::function<void(WindowId)> in_dialog;  // what the user does in a modal dialog
 };
 
 }  // namespace vellumark::testing
