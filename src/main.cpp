@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
+#include <QTimer>
 #include <memory>
 
 #include "foundation/messages.h"
@@ -74,7 +75,6 @@ int main(int argc, char* argv[]) {
     return 1;
   }
 
-  SetIcon(*files, *program_folder);
   QtFileDialogs file_dialogs(*files, *text, boxes);
   QtSoundPlayer sounds(QCoreApplication::applicationDirPath());
   QtShell shell;
@@ -95,5 +95,8 @@ int main(int argc, char* argv[]) {
 
   MainWindowLoaded(program);
   window.show();
+  // The window need not wait for its icon.
+  constexpr int kIconDelay = 100;  // milliseconds
+  QTimer::singleShot(kIconDelay, &window, [&] { SetIcon(*files, *program_folder); });
   return QApplication::exec();
 }

@@ -33,6 +33,7 @@ class Builder {
   }
 
   ScannedCatalogue Build() {
+    result_.catalogue.entries.reserve(Catalogue::kMostEntries);
     if (request_.all_subfolders) {
       TakeAllSubfolders();
     } else {

@@ -43,7 +43,6 @@ SavegameList::SavegameList(QWidget* parent)
     : QListView(parent), lines_(new SavegameListModel(this)) {
   setModel(lines_);
   setItemDelegate(new LineDelegate(*lines_, this));
-  setFont(ColumnFont());
   setUniformItemSizes(true);
   setTextElideMode(Qt::ElideNone);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -53,6 +52,8 @@ SavegameList::SavegameList(QWidget* parent)
 
 void SavegameList::SetLines(QStringList lines) {
   const QScopedValueRollback own_change(own_change_, true);
+  // Finding the font takes a while; an empty list, as at the very first start, need not wait for it.
+  if (!lines.isEmpty()) setFont(ColumnFont());
   lines_->SetLines(std::move(lines));
 }
 

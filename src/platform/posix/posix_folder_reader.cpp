@@ -38,8 +38,8 @@ struct Row {
   std::string host;
 };
 
-bool ComesBefore(const Row& a, const Row& b) {
-  return std::tie(a.folded, a.entry.name, a.host) < std::tie(b.folded, b.entry.name, b.host);
+bool ComesBefore(const Row* a, const Row* b) {
+  return std::tie(a->folded, a->entry.name, a->host) < std::tie(b->folded, b->entry.name, b->host);
 }
 
 UnusableName Unusable(std::string_view host, NameUse use, bool folder) {
@@ -59,7 +59,7 @@ FolderContents ListDirectory(Directory* directory, const PathNames& names,
   const bool everything = pattern == "*" || pattern == "*.*";
   const std::string wanted = names.Fold(pattern);
   std::vector<Row> rows;
-  rows.reserve(32);
+  rows.reserve(64);
 
   while (const dirent* entry = directory->Next()) {
     CoreName name = names.FromHost(entry->d_name);
@@ -83,18 +83,21 @@ FolderContents ListDirectory(Directory* directory, const PathNames& names,
     return contents;
   }
 
-  std::sort(rows.begin(), rows.end(), ComesBefore);
-  for (std::size_t i = 1; i < rows.size(); ++i) {
-    if (rows[i - 1].folded != rows[i].folded) continue;
-    rows[i - 1].entry.ambiguous = true;
-    rows[i].entry.ambiguous = true;
+  std::vector<Row*> sorted;  // rows are dear to move
+  sorted.reserve(rows.size());
+  for (Row& row : rows) sorted.push_back(&row);
+  std::sort(sorted.begin(), sorted.end(), ComesBefore);
+  for (std::size_t i = 1; i < sorted.size(); ++i) {
+    if (sorted[i - 1]->folded != sorted[i]->folded) continue;
+    sorted[i - 1]->entry.ambiguous = true;
+    sorted[i]->entry.ambiguous = true;
   }
 
   contents.listing.entries.reserve(rows.size());
   contents.host_names.reserve(rows.size());
-  for (Row& row : rows) {
-    contents.listing.entries.push_back(std::move(row.entry));
-    contents.host_names.push_back(std::move(row.host));
+  for (Row* row : sorted) {
+    contents.listing.entries.push_back(std::move(row->entry));
+    contents.host_names.push_back(std::move(row->host));
   }
   std::sort(contents.listing.unusable.begin(), contents.listing.unusable.end(),
             [](const UnusableName& a, const UnusableName& b) { return a.shown < b.shown; });

@@ -1,0 +1,39 @@
+// A first start, from the start of the process to the painted window, against a program that shows
+// an empty main window.
+// usage: start_bench PROGRAM-FOLDER BARE-WINDOW WORK-FOLDER
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+#include "bench_run.h"
+#include "measured.h"
+#include "program_world.h"
+#include "watched_program.h"
+
+int main(int argc, char** argv) {
+  using namespace vellumark::bench;
+  namespace fs = std::filesystem;
+  Require(argc == 4, "usage: start_bench PROGRAM-FOLDER BARE-WINDOW WORK-FOLDER");
+  const fs::path program_folder = argv[1];
+  const fs::path bare_window = argv[2];
+  const fs::path work = argv[3];
+  Display display;
+
+  // Both are copied anew before each start: what a fresh copy costs, it costs both. The copying
+  // itself is given the time to come to rest.
+  constexpr useconds_t kPause = 100'000;
+  const auto start_bare = [&] {
+    const fs::path copy = work / "bare_window";
+    fs::create_directories(work);
+    fs::copy_file(bare_window, copy, fs::copy_options::overwrite_existing);
+    usleep(kPause);
+    return WatchedProgram(display, {fs::absolute(copy)}, "Bare window").seconds_to_window();
+  };
+  const auto start_ours = [&] {
+    const std::string program = CopyProgram(program_folder, work / "program");
+    usleep(kPause);
+    return WatchedProgram(display, {program}, kMainTitle).seconds_to_window();
+  };
+  PrintRatio("start / bare QMainWindow", MedianOfFive(start_bare, start_ours), 1.3);
+}
