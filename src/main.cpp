@@ -4,6 +4,8 @@
 #include <QPixmap>
 #include <QTimer>
 #include <memory>
+#include <optional>
+#include <thread>
 
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
@@ -53,6 +55,7 @@ void SetIcon(FileSystem& files, const std::string& program_folder) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  const std::jthread reading_ahead(ReadAheadForFirstWindow);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Vellumark"));
   QApplication::setDesktopFileName(QStringLiteral("vellumark"));

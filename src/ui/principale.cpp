@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -32,6 +33,8 @@
 namespace vellumark {
 namespace {
 
+// What a window manager's frame takes of a small screen.
+constexpr QSize kFrameRoom(16, 40);
 constexpr int kTimerInterval = 500;  // milliseconds
 
 template <typename Widget>
@@ -76,7 +79,7 @@ Principale::Principale(FileSystem& files, const Text& text) : files_(files), tex
   NameControlsWithoutCaption();
   timer_.setObjectName(QStringLiteral("Timer1"));
   timer_.setInterval(kTimerInterval);
-  resize(1120, 700);
+  resize(QSize(1120, 700).boundedTo(screen()->availableGeometry().size() - kFrameRoom));
   list_->setFocus();
 }
 

@@ -1,5 +1,7 @@
 #include "platform/system_services.h"
 
+#include <dlfcn.h>
+
 #include <cstdlib>
 #include <string>
 
@@ -28,6 +30,14 @@ std::unique_ptr<FileSystem> MakeSystemFileSystem(const Text& text) {
   const std::string home = Environment("HOME");
   return std::make_unique<PosixFileSystem>(text, ReadDriveMap(Environment("WINEPREFIX"), home),
                                            home);
+}
+
+void ReadAheadForFirstWindow() {
+  // The library stays loaded: the windows use the configuration that it has read.
+  void* library = dlopen("libfontconfig.so.1", RTLD_LAZY);
+  if (library == nullptr) return;
+  using InitFunction = int (*)();
+  if (const auto init = reinterpret_cast<InitFunction>(dlsym(library, "FcInit"))) init();
 }
 
 }  // namespace vellumark
