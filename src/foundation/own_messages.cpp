@@ -40,6 +40,9 @@ constexpr TableMessage kOwnMessages[] = {
     {kSaveElsewhere, "Do you want to save it with another name?"},
     {kOldFileKept, "The archive has been saved in ~1.\r\nThe file that had this name is now ~2"},
     {kPathTooLong, "This path is too long, it can have 256 characters at most: ~1"},
+    {kBaseNameNotPossible,
+     "This sub-folder name cannot be used: no folder name can hold these characters / : * ? \" < > "
+     "|"},
     {kPathNotExpressible,
      "This file or folder cannot be used: its path has characters that savegame archives cannot "
      "hold, or no drive letter leads to it."},
@@ -68,6 +71,31 @@ constexpr TableMessage kOwnMessages[] = {
     {kImportNotRenamed, "The last savegame could not become savegame.0 and is still ~1: ~2."},
     {kInfoNotWritten, "The list of the imported savegames could not be added to ~1: ~2."},
 
+    {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
+    {kNoteCharacters,
+     "A note cannot hold these characters: ~1\r\nThe first of them is marked. Nothing has been "
+     "written."},
+    {kNoPicture,
+     "The file ~1 is not a picture that can be shown.\r\nDo you want to link it as screen-shot all "
+     "the same?"},
+    {kChangesNotWritten,
+     "Warning: not everything could be saved. These files could not be changed and are as they "
+     "were:"},
+    {kNoteStillShown,
+     "The note that you have typed is still in the window: you can try again or copy it."},
+
+    {kFolderNotOpened, "The folder ~1 cannot be opened: ~2."},
+    {kFolderNotMade, "The folder ~1 could not be created: ~2."},
+    {kFolderNameNotExpressible,
+     "This folder name cannot be used: savegame archives cannot hold the marked character."},
+    {kFolderRefusedCharacters,
+     "This folder cannot be used: its name has characters that savegame archives cannot hold"},
+    {kFolderRefusedName, "This folder cannot be used: Windows could not hold its name"},
+    {kFolderRefusedTwice,
+     "This folder cannot be used: its name exists twice, in upper and lower case"},
+    {kFolderRefusedLength,
+     "This folder cannot be used: its path is too long, it can have 256 characters at most"},
+
     {kNothingOpens, "No program could be started that opens the file ~1"},
     {kFailureLine, "~2: ~1"},
     {kMoreFailures, "... and ~1 more"},
@@ -78,6 +106,10 @@ constexpr TableMessage kOwnMessages[] = {
     {kNamePosition, "Position in the search result"},
     {kNamePrevious, "Previous savegame found"},
     {kNameNext, "Next savegame found"},
+    {kNameDrives, "Drives"},
+    {kNameFolders, "Folders"},
+    {kNameFolderPath, "Path of the selected folder"},
+    {kNameNewFolder, "Name of the new folder"},
 
     {kReasonNotWhole, "it is too short"},
     {kReasonNotAnArchive, "it holds no archive settings"},

@@ -23,6 +23,7 @@ enum OwnMessage : int {
   kSaveElsewhere,            // question
   kOldFileKept,              // ~1 file, ~2 kept copy
   kPathTooLong,              // ~1 path
+  kBaseNameNotPossible,      // no values
   kPathNotExpressible,       // no values
 
   // Scan
@@ -38,6 +39,22 @@ enum OwnMessage : int {
   kImportNotRenamed,  // ~1 file name, ~2 reason
   kInfoNotWritten,    // ~1 file, ~2 reason
 
+  // Savegame properties
+  kCounterOutOfRange,  // no values
+  kNoteCharacters,     // ~1 characters
+  kNoPicture,          // ~1 file; question
+  kChangesNotWritten,  // followed by failure lines
+  kNoteStillShown,     // no values
+
+  // Folder chooser
+  kFolderNotOpened,           // ~1 folder, ~2 reason
+  kFolderNotMade,             // ~1 folder, ~2 reason
+  kFolderNameNotExpressible,  // no values
+  kFolderRefusedCharacters,   // no values
+  kFolderRefusedName,         // no values
+  kFolderRefusedTwice,        // no values
+  kFolderRefusedLength,       // no values
+
   // Everywhere
   kNothingOpens,  // ~1 file
   kFailureLine,   // ~1 reason, ~2 path
@@ -50,6 +67,10 @@ enum OwnMessage : int {
   kNamePosition,
   kNamePrevious,
   kNameNext,
+  kNameDrives,
+  kNameFolders,
+  kNameFolderPath,
+  kNameNewFolder,
 
   // Reasons, each a part of a sentence
   kReasonNotWhole,

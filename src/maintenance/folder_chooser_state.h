@@ -23,8 +23,8 @@ struct FolderChooserState {
   std::string ChosenFolder;  // the folder of the last OK; a drive's root is `X:` alone
   bool Confirmed = false;    // the last answer
 
-  // The text of the opener's field that the chooser starts from and fills: the archive properties
-  // dialog's main folder or game folder, the reorder dialog's main folder.
+  // The text of the opener's field that the chooser fills: the archive properties dialog's main
+  // folder or game folder, where it also starts, or the reorder dialog's main folder.
   std::string field;
 };
 

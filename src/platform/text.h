@@ -38,6 +38,10 @@ class Text {
   // Equal without regard to case, by the code page's rules.
   virtual bool EqualNoCase(std::string_view a, std::string_view b) const = 0;
 
+  // Every byte by itself as one and the same for all its cases: two texts are EqualNoCase exactly
+  // when their folds are equal.
+  virtual std::string Fold(std::string_view bytes) const = 0;
+
   // Lower case for paths: one fixed rule for the code page, whatever the user's language. Two
   // names are the same name exactly when this makes them equal.
   virtual std::string LowerPath(std::string_view path) const = 0;

@@ -23,10 +23,63 @@ constexpr AccessKey kPrincipaleKeys[] = {
     {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'}, {"mnu_ShowHelp", 'H'},
 };
 
+constexpr AccessKey kSetNewArcKeys[] = {
+    {"Label1", 'M'},
+    {"pul_sfoglia_dir", 'B'},
+    {"Label3", 'P'},
+    {"Label2", 'T'},
+    {"pul_sfoglia_tr", 'R'},
+    {"Label7", 'F'},
+    {"pul_sfoglia_nome_tomb", 'W'},
+    {"Label9", 'X'},
+    {"Pul_Ok", 'O'},
+    {"Pul_Cancel", 'C'},
+};
+
+constexpr AccessKey kPrefKeys[] = {
+    {"Check_Suoni", 'S'}, {"Check_AvvioAutomatico", 'E'}, {"Check_TutteLeDir", 'A'},
+    {"Label1", 'D'},      {"Pul_Sfoglia", 'B'},           {"Pul_Ok", 'O'},
+    {"Pul_Annulla", 'C'},
+};
+
+constexpr AccessKey kCercaKeys[] = {
+    {"Label1", 'S'},        {"Check_NomeLivello", 'L'},
+    {"Check_Note", 'G'},    {"Check_ConScreenShot", 'W'},
+    {"Check_ConNote", 'B'}, {"Pul_Cerca", 'F'},
+    {"Pul_Annulla", 'C'},
+};
+
+constexpr AccessKey kNoteKeys[] = {
+    {"Label1", 'S'},
+    {"Label2", 'L'},
+    {"Label3", 'I'},
+    {"Frame1", 'N'},
+    {"Pul_SfogliaScreen", 'B'},
+    {"Check_EliminaShot", 'R'},
+    {"Pul_Ok", 'O'},
+    {"Pul_Annulla", 'C'},
+};
+
+constexpr AccessKey kGetDirKeys[] = {
+    {"Pul_NuovaCartella", 'F'},
+    {"OKButton", 'O'},
+    {"CancelButton", 'C'},
+};
+
 std::span<const AccessKey> KeysOf(WindowId window) {
   switch (window) {
     case WindowId::kPrincipale:
       return kPrincipaleKeys;
+    case WindowId::kDialogSetNewArc:
+      return kSetNewArcKeys;
+    case WindowId::kDialogPref:
+      return kPrefKeys;
+    case WindowId::kDialogCerca:
+      return kCercaKeys;
+    case WindowId::kDialogNote:
+      return kNoteKeys;
+    case WindowId::kDialogGetDir:
+      return kGetDirKeys;
     default:
       return {};
   }

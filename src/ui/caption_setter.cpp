@@ -13,6 +13,13 @@
 namespace vellumark {
 namespace {
 
+// A caption as a name: without the blanks around it and the dots that lead the eye to a field.
+QString AsName(const QString& caption) {
+  QString name = caption.trimmed();
+  while (name.endsWith(u'.') || name.endsWith(u' ')) name.chop(1);
+  return name;
+}
+
 void SetCaption(QObject& control, const QString& caption, const QString& plain) {
   if (auto* menu = qobject_cast<QMenu*>(&control)) {
     menu->setTitle(caption);
@@ -20,12 +27,12 @@ void SetCaption(QObject& control, const QString& caption, const QString& plain) 
     action->setText(caption);
   } else if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
     button->setText(caption);
-    button->setAccessibleName(plain.trimmed());
+    button->setAccessibleName(AsName(plain));
   } else if (auto* frame = qobject_cast<QGroupBox*>(&control)) {
     frame->setTitle(caption);
   } else if (auto* label = qobject_cast<QLabel*>(&control)) {
     label->setText(caption);
-    if (label->buddy() != nullptr) label->buddy()->setAccessibleName(plain.trimmed());
+    if (label->buddy() != nullptr) label->buddy()->setAccessibleName(AsName(plain));
   }
 }
 

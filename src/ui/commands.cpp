@@ -3,14 +3,23 @@
 #include "archive/archive_commands.h"
 #include "archive/scan.h"
 #include "foundation/help.h"
+#include "foundation/windows.h"
 #include "game/import.h"
+#include "program.h"
 #include "savegames/details.h"
+#include "savegames/savegame_properties.h"
+#include "savegames/search.h"
 
 namespace vellumark {
 namespace {
 
+template <WindowId dialog>
+void Show(Program& program) {
+  program.windows.ShowModal(dialog);
+}
+
 constexpr Command kCommands[] = {
-    {"mnu_File", "mnu_New", nullptr, "Ctrl+N", nullptr},
+    {"mnu_File", "mnu_New", nullptr, "Ctrl+N", NewArchive},
     {"mnu_File", "mnu_Load", nullptr, "Ctrl+O", LoadArchive},
     {"mnu_File", "-", nullptr, "", nullptr},
     {"mnu_File", "mnu_Save", nullptr, "Ctrl+S", SaveArchive},
@@ -20,9 +29,9 @@ constexpr Command kCommands[] = {
 
     {"mnu_Savegames", "mnu_Archivia", nullptr, "Ctrl+I", ImportCommand},
     {"mnu_Savegames", "-", nullptr, "", nullptr},
-    {"mnu_Savegames", "mnu_Find", "Pul_Cerca", "Ctrl+F", nullptr},
+    {"mnu_Savegames", "mnu_Find", "Pul_Cerca", "Ctrl+F", OpenSearch},
     {"mnu_Savegames", "mnu_Examine", "Pul_Play", "Ctrl+P", nullptr},
-    {"mnu_Savegames", "mnu_PropSavegame", "Pul_CambiaProp", "F2", nullptr},
+    {"mnu_Savegames", "mnu_PropSavegame", "Pul_CambiaProp", "F2", ShowSavegameProperties},
     {"mnu_Savegames", "-", nullptr, "", nullptr},
     {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", nullptr},
     {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", nullptr},
@@ -31,15 +40,15 @@ constexpr Command kCommands[] = {
     {"mnu_Tools", "mnu_Reorder", nullptr, "", nullptr},
     {"mnu_Tools", "mnu_Scansione", nullptr, "F5", RescanCommand},
 
-    {"mnu_Preference", "mnu_PrefArchive", nullptr, "", nullptr},
-    {"mnu_Preference", "mnu_PrefManager", nullptr, "", nullptr},
+    {"mnu_Preference", "mnu_PrefArchive", nullptr, "", Show<WindowId::kDialogSetNewArc>},
+    {"mnu_Preference", "mnu_PrefManager", nullptr, "", Show<WindowId::kDialogPref>},
 
     {"mnu_Help", "mnu_ShowHelp", nullptr, "F1", ShowHelp},
 
     {nullptr, nullptr, "Pul_StartTomb", "", nullptr},
     {nullptr, nullptr, "Pul_Zoom", "", ShowScreenShot},
-    {nullptr, nullptr, "Pul_Precedente", "Shift+F3", nullptr},
-    {nullptr, nullptr, "Pul_Seguente", "F3", nullptr},
+    {nullptr, nullptr, "Pul_Precedente", "Shift+F3", ShowPreviousFound},
+    {nullptr, nullptr, "Pul_Seguente", "F3", ShowNextFound},
 };
 
 }  // namespace

@@ -52,7 +52,8 @@ SavegameList::SavegameList(QWidget* parent)
 
 void SavegameList::SetLines(QStringList lines) {
   const QScopedValueRollback own_change(own_change_, true);
-  // Finding the font takes a while; an empty list, as at the very first start, need not wait for it.
+  // Finding the font takes a while; an empty list, as at the very first start, need not wait for
+  // it.
   if (!lines.isEmpty()) setFont(ColumnFont());
   lines_->SetLines(std::move(lines));
 }

@@ -194,6 +194,8 @@ bool CodePageText::EqualNoCase(std::string_view a, std::string_view b) const {
   });
 }
 
+std::string CodePageText::Fold(std::string_view bytes) const { return Map(fold_, bytes); }
+
 std::string CodePageText::LowerPath(std::string_view path) const { return Map(path_, path); }
 
 std::string CodePageText::Map(const ByteMap& map, std::string_view bytes) {

@@ -30,6 +30,7 @@ class CodePageText : public Text {
   std::string Upper(std::string_view bytes) const override;
   std::string Lower(std::string_view bytes) const override;
   bool EqualNoCase(std::string_view a, std::string_view b) const override;
+  std::string Fold(std::string_view bytes) const override;
   std::string LowerPath(std::string_view path) const override;
 
  private:

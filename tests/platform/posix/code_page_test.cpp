@@ -38,7 +38,11 @@ std::string Changed(const Text& text, CaseChange change, std::string_view utf8) 
 }
 
 bool SameButForCase(const Text& text, std::string_view a, std::string_view b) {
-  return text.EqualNoCase(text.FromUtf8(a).bytes, text.FromUtf8(b).bytes);
+  const std::string left = text.FromUtf8(a).bytes;
+  const std::string right = text.FromUtf8(b).bytes;
+  const bool same = text.EqualNoCase(left, right);
+  EXPECT_EQ(text.Fold(left) == text.Fold(right), same) << a << " and " << b;
+  return same;
 }
 
 TEST(CodePageText, EveryByteOfEveryCodePageComesBackFromUtf8) {

@@ -1,0 +1,100 @@
+#include "archive/archive_properties.h"
+
+#include <cstdint>
+
+#include "foundation/messages.h"
+#include "foundation/number_reading.h"
+#include "foundation/own_messages.h"
+#include "foundation/sound_effects.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "foundation/windows.h"
+#include "platform/file_dialogs.h"
+#include "program.h"
+
+namespace vellumark {
+namespace {
+
+bool Refuse(Program& program, int message) {
+  Tell(program, LoadMessage(message), BoxIcon::kCritical);
+  return false;
+}
+
+// The number that a maximum begins with; nothing when a slot number cannot be that large.
+std::optional<std::int16_t> SlotNumberIn(const std::string& text) {
+  const std::int64_t number = ReadLeadingNumber(text);
+  return FitsInt16(number) ? std::optional(static_cast<std::int16_t>(number)) : std::nullopt;
+}
+
+// No disk can hold a sub-folder whose name has one of these.
+bool IsPossibleName(const std::string& base_name) {
+  return base_name.find_first_of("/:*?\"<>|") == std::string::npos;
+}
+
+std::string ChooseFolder(Program& program, ChooserMode mode, const std::string& shown) {
+  program.chooser.FolderChooserMode = mode;
+  program.chooser.field = shown;
+  program.windows.ShowModal(WindowId::kDialogGetDir);
+  return program.chooser.field;
+}
+
+}  // namespace
+
+ArchivePropertiesFields PrepareArchiveProperties(Program& program) {
+  ArchiveSettings& settings = program.archive.settings;
+  settings.MainFolder = Trimmed(settings.MainFolder);
+  settings.GameFolder = Trimmed(settings.GameFolder);
+  settings.GameExecutable = Trimmed(settings.GameExecutable);
+  settings.SubfolderBaseName = Trimmed(settings.SubfolderBaseName);
+  program.archive.ArchivePropertiesOk = false;
+  PlaySoundEffect(program, SoundEffect::kOpening);
+  return {.main_folder = settings.MainFolder,
+          .base_name = settings.SubfolderBaseName,
+          .game_folder = settings.GameFolder,
+          .executable = settings.GameExecutable,
+          .max_savegame = std::to_string(settings.MaxSavegame)};
+}
+
+std::string ArchivePropertiesTitle(const Program& program) {
+  return LoadMessage(216) + Trimmed(program.preferences.LastArchive);
+}
+
+bool AcceptArchiveProperties(Program& program, const ArchivePropertiesFields& fields) {
+  const std::string base_name = Trimmed(fields.base_name);
+  if (Trimmed(fields.max_savegame).empty()) return Refuse(program, 217);
+  if (fields.main_folder.empty()) return Refuse(program, 218);
+  if (base_name.empty()) return Refuse(program, 219);
+  if (fields.game_folder.empty()) return Refuse(program, 220);
+  if (fields.executable.empty()) return Refuse(program, 221);
+  const auto max_savegame = SlotNumberIn(fields.max_savegame);
+  if (!max_savegame) return Refuse(program, 217);
+  if (!IsPossibleName(base_name)) return Refuse(program, kBaseNameNotPossible);
+
+  ArchiveSettings& settings = program.archive.settings;
+  settings.MainFolder = fields.main_folder;
+  settings.SubfolderBaseName = base_name;
+  settings.MaxSavegame = *max_savegame;
+  settings.GameFolder = fields.game_folder;
+  settings.GameExecutable = fields.executable;
+  program.archive.ArchiveChanged = true;
+  program.archive.ArchivePropertiesOk = true;
+  return true;
+}
+
+std::optional<std::string> ChooseGameExecutable(Program& program, const std::string& game_folder) {
+  PlaySoundEffect(program, SoundEffect::kOpening);
+  return program.file_dialogs.Open({.title = LoadMessage(222),
+                                    .filter = LoadMessage(223),
+                                    .start_folder = game_folder,
+                                    .initial_name = ""});
+}
+
+std::string ChooseMainFolder(Program& program, const std::string& shown) {
+  return ChooseFolder(program, ChooserMode::kMainFolder, shown);
+}
+
+std::string ChooseGameFolder(Program& program, const std::string& shown) {
+  return ChooseFolder(program, ChooserMode::kGameFolder, shown);
+}
+
+}  // namespace vellumark

@@ -1,0 +1,197 @@
+#include "maintenance/folder_chooser.h"
+
+#include <algorithm>
+
+#include "foundation/failures.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
+#include "foundation/record.h"
+#include "foundation/sound_effects.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "game/restore.h"
+#include "program.h"
+
+namespace vellumark {
+namespace {
+
+void Refuse(Program& program, const std::string& text) {
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  Tell(program, text, BoxIcon::kCritical);
+}
+
+void RefuseFolder(Program& program, const std::string& folder, FileError why) {
+  Refuse(program, LoadMessage(kFolderNotOpened, {Quoted(folder), ReasonFor(why)}));
+}
+
+int TitleOf(ChooserMode mode) {
+  switch (mode) {
+    case ChooserMode::kPlain:
+      return 174;
+    case ChooserMode::kMainFolder:
+      return 131;
+    case ChooserMode::kGameFolder:
+      return 132;
+    case ChooserMode::kCopy:
+      return 134;
+    case ChooserMode::kMove:
+      return 135;
+    case ChooserMode::kNewArchiveFolder:
+      return 136;
+    case ChooserMode::kExportShots:
+      return 137;
+  }
+  return 127;
+}
+
+// The text that names the start folder; empty for the current folder.
+std::string StartText(const Program& program) {
+  switch (program.chooser.FolderChooserMode) {
+    case ChooserMode::kMainFolder:
+    case ChooserMode::kGameFolder:
+      return Trimmed(program.chooser.field);
+    case ChooserMode::kNewArchiveFolder:
+      return Trimmed(program.archive.settings.MainFolder);
+    case ChooserMode::kExportShots:
+      return Trimmed(program.preferences.ShotFolder);
+    default:
+      return {};
+  }
+}
+
+std::string CurrentFolder(Program& program) { return AsShownFolder(program.files.CurrentFolder()); }
+
+std::string StartFolder(Program& program) {
+  const std::string text = AsShownFolder(StartText(program));
+  if (text.empty()) return CurrentFolder(program);
+
+  const std::string folder = AsShownFolder(program.files.FromCommandLine(text));
+  if (folder.size() < 3 || folder[1] != ':') return CurrentFolder(program);
+  // The spelling stays, so that OK on the start folder gives back what was there.
+  return SamePath(program.text, text, folder) ? text : folder;
+}
+
+std::string WithoutDoubleBackslashes(std::string path) {
+  const auto both = [](char a, char b) { return a == '\\' && b == '\\'; };
+  path.erase(std::unique(path.begin(), path.end(), both), path.end());
+  return path;
+}
+
+// What the folder is wanted for.
+void UseChosenFolder(Program& program) {
+  FolderChooserState& chooser = program.chooser;
+  switch (chooser.FolderChooserMode) {
+    case ChooserMode::kMainFolder:
+    case ChooserMode::kNewArchiveFolder:
+      chooser.field = chooser.ChosenFolder;
+      break;
+    case ChooserMode::kGameFolder:
+      // While the settings still name the old game folder: the player's slots belong there.
+      if (chooser.ChosenFolder != Trimmed(program.archive.settings.GameFolder)) {
+        RestoreOriginalSavegames(program);
+      }
+      chooser.field = chooser.ChosenFolder;
+      program.archive.ArchiveChanged = true;
+      break;
+    case ChooserMode::kPlain:
+    case ChooserMode::kCopy:
+    case ChooserMode::kMove:
+    case ChooserMode::kExportShots:
+      break;
+  }
+}
+
+}  // namespace
+
+ChooserOpening OpenChooser(Program& program) {
+  const ChooserMode mode = program.chooser.FolderChooserMode;
+  const bool prepared = mode != ChooserMode::kPlain;
+  if (prepared) PlaySoundEffect(program, SoundEffect::kOpening);
+  program.chooser.Confirmed = false;
+
+  FolderLines folder = ReadFolderLines(program, StartFolder(program));
+  if (folder.error != FileError::kNone) folder = ReadFolderLines(program, CurrentFolder(program));
+  return {.title = TitleOf(mode), .shows_path = prepared, .folder = std::move(folder)};
+}
+
+std::optional<FolderLines> EnterFolder(Program& program, const std::string& folder) {
+  FolderLines entered = ReadFolderLines(program, folder);
+  if (entered.error == FileError::kNone) return entered;
+  RefuseFolder(program, folder, entered.error);
+  return std::nullopt;
+}
+
+FolderLines ChangeDrive(Program& program, char letter, const std::string& folder) {
+  const std::string root{letter, ':', '\\'};
+  const std::string current = CurrentFolder(program);
+  FolderLines picked = ReadFolderLines(program, current[0] == letter ? current : root);
+  if (picked.error != FileError::kNone && picked.folder != root) {
+    picked = ReadFolderLines(program, root);
+  }
+  if (picked.error == FileError::kNone) return picked;
+
+  if (picked.error == FileError::kNotReady || picked.error == FileError::kNotFound) {
+    Refuse(program, LoadMessage(138));
+  } else {
+    RefuseFolder(program, root, picked.error);
+  }
+  return ReadFolderLines(program, folder);
+}
+
+std::optional<std::string> CreateSubfolder(Program& program, const std::string& folder,
+                                           const EncodedText& name) {
+  if (name.bytes.empty()) {
+    Refuse(program, LoadMessage(150));
+    return std::nullopt;
+  }
+  if (!name.missing.empty()) {
+    Refuse(program, LoadMessage(kFolderNameNotExpressible));
+    return std::nullopt;
+  }
+
+  std::string path = WithoutDoubleBackslashes(InFolder(folder, Trimmed(name.bytes)));
+  if (program.files.Attributes(path).error == FileError::kNone) {
+    Refuse(program, Quoted(path) + LoadMessage(151));
+    return std::nullopt;
+  }
+  // The list could not give it as an answer.
+  if (path.size() > kTextFieldSize) {
+    Refuse(program, LoadMessage(kPathTooLong, {Quoted(path)}));
+    return std::nullopt;
+  }
+
+  const FileError error = program.files.CreateFolder(path);
+  if (error == FileError::kNotFound) {
+    RefuseFolder(program, FolderOf(path), error);
+    return std::nullopt;
+  }
+  if (error != FileError::kNone) {
+    Refuse(program, LoadMessage(kFolderNotMade, {Quoted(path), ReasonFor(error)}));
+    return std::nullopt;
+  }
+  PlaySoundEffect(program, SoundEffect::kNotice);
+  return path;
+}
+
+bool TakeFolder(Program& program, const std::string& folder) {
+  const AttributesResult found = program.files.Attributes(folder);
+  const bool exists = found.error == FileError::kNone && found.attributes.folder;
+  if (!exists) {
+    const bool file = found.error == FileError::kNone;
+    RefuseFolder(program, folder, file ? FileError::kNotFound : found.error);
+    return false;
+  }
+  if (folder.size() > kTextFieldSize) {
+    Refuse(program, LoadMessage(kPathTooLong, {Quoted(folder)}));
+    return false;
+  }
+
+  const bool root = folder.size() < 4;
+  program.chooser.ChosenFolder = root ? folder.substr(0, folder.find('\\')) : folder;
+  UseChosenFolder(program);
+  program.chooser.Confirmed = true;
+  return true;
+}
+
+}  // namespace vellumark

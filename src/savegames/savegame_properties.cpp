@@ -1,0 +1,168 @@
+#include "savegames/savegame_properties.h"
+
+#include <cstdint>
+#include <vector>
+
+#include "foundation/failures.h"
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/number_reading.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
+#include "foundation/sound_effects.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "foundation/windows.h"
+#include "platform/file_dialogs.h"
+#include "program.h"
+#include "savegames/details.h"
+#include "savegames/list_line.h"
+#include "savegames/main_window.h"
+#include "savegames/notes.h"
+#include "savegames/savegame_header.h"
+
+namespace vellumark {
+namespace {
+
+SavegameEntry& EntryAt(Program& program, int index) {
+  return program.catalogue.entries[static_cast<std::size_t>(index)];
+}
+
+// A minus sign takes the place of the blank.
+std::string WithSignPlace(int number) {
+  return number < 0 ? std::to_string(number) : WithLeadingBlank(number);
+}
+
+// The folder of the preferences; they may also hold the path of a picture saved there.
+std::string StartFolder(Program& program) {
+  std::string folder = Trimmed(program.preferences.ShotFolder);
+  if (FolderExists(program.files, folder)) return folder;
+  std::string parent = FolderOf(folder);
+  return FolderExists(program.files, parent) ? parent : folder;
+}
+
+// Asks about a file that is no picture. One that cannot be read fails when it is copied.
+bool MayBecomeScreenShot(Program& program, const std::string& chosen, PictureTest is_picture) {
+  const ReadResult read = program.files.Read(chosen, FileSystem::kWholeFile);
+  if (read.error != FileError::kNone || is_picture(read.bytes)) return true;
+  return AskYesNo(program, LoadMessage(kNoPicture, {Quoted(chosen)}), BoxIcon::kExclamation);
+}
+
+// A chosen file that has vanished must not cost the screen-shot that is linked.
+bool CopyToScreenShot(Program& program, const std::string& chosen, const std::string& shot) {
+  return program.files.Attributes(chosen).error == FileError::kNone &&
+         CopyFileReplacing(program.files, chosen, shot);
+}
+
+bool IsPossibleCounter(Program& program, std::optional<std::int64_t> counter) {
+  if (!counter || FitsInt16(*counter)) return true;
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  Tell(program, LoadMessage(kCounterOutOfRange), BoxIcon::kCritical);
+  return false;
+}
+
+// Each of these changes one file and answers with the failure, which leaves both the file and the
+// entry as they were.
+using Failures = std::vector<Failure>;
+
+bool StoreNote(Program& program, const SavegameChanges& changes, Failures& failures) {
+  SavegameEntry& entry = EntryAt(program, changes.index);
+  const std::string note = changes.note ? changes.note->stored : entry.NoteText;
+  const FileError error = WriteNoteFile(program.files, entry.NotePath, note);
+  if (error != FileError::kNone) {
+    failures.push_back({entry.NotePath, error});
+    return false;
+  }
+  entry.NoteText = note;
+  return true;
+}
+
+void RemoveScreenShot(Program& program, int index, Failures& failures) {
+  const std::string shot = LinkedShot(program, index);
+  if (shot.empty()) {
+    Tell(program, LoadMessage(162));
+  } else if (const FileError error = program.files.Delete(shot); error != FileError::kNone) {
+    failures.push_back({shot, error});
+  }
+}
+
+void StoreCounter(Program& program, int index, std::int16_t counter, Failures& failures) {
+  SavegameEntry& entry = EntryAt(program, index);
+  if (counter == entry.InternalCounter) return;
+
+  const FileError error = WriteInternalCounter(program.files, entry.SavegamePath, counter);
+  if (error == FileError::kNone) {
+    entry.InternalCounter = counter;
+  } else {
+    failures.push_back({entry.SavegamePath, error});
+  }
+}
+
+void TellFailures(Program& program, const Failures& failures, bool keeps_note) {
+  if (failures.empty()) return;
+  std::string text = LoadMessage(kChangesNotWritten) + DescribeFailures(failures);
+  if (keeps_note) text += kLineBreak + LoadMessage(kNoteStillShown);
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  Tell(program, text, BoxIcon::kExclamation);
+}
+
+}  // namespace
+
+void ShowSavegameProperties(Program& program) {
+  if (program.selection.Count() == 1) {
+    program.windows.ShowModal(WindowId::kDialogNote);
+    return;
+  }
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  Tell(program, LoadMessage(271), BoxIcon::kCritical);
+}
+
+SavegameProperties PrepareSavegameProperties(Program& program) {
+  PlaySoundEffect(program, SoundEffect::kOpening);
+  const int index = program.selection.indices.front();
+  const SavegameEntry& entry = EntryAt(program, index);
+  const std::string counter = WithSignPlace(entry.InternalCounter);
+  return {.index = index,
+          .note = entry.NoteText,
+          .path = entry.SavegamePath,
+          .level = counter + "  " + entry.LevelName,
+          .counter = counter,
+          .shot = LinkedShot(program, index)};
+}
+
+std::string LinkedShot(Program& program, int index) {
+  const std::string& shot = EntryAt(program, index).ShotPath;
+  return FileExists(program.files, shot) ? shot : std::string();
+}
+
+bool ChooseScreenShot(Program& program, int index, PictureTest is_picture) {
+  const std::string shot = EntryAt(program, index).ShotPath;
+  const auto chosen = program.file_dialogs.Open({.title = LoadMessage(163),
+                                                 .filter = LoadMessage(164),
+                                                 .start_folder = StartFolder(program)});
+  if (!chosen || !MayBecomeScreenShot(program, *chosen, is_picture)) return false;
+  if (CopyToScreenShot(program, *chosen, shot)) return true;
+  Tell(program, LoadMessage(165, {*chosen}) + shot, BoxIcon::kCritical);
+  return false;
+}
+
+ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& changes) {
+  if (changes.note && !CanBeStored(program, *changes.note)) return ChangesAnswer::kRefused;
+  const auto counter = ReadWholeNumber(changes.counter);
+  if (!IsPossibleCounter(program, counter)) return ChangesAnswer::kRefused;
+
+  Failures failures;
+  const bool keeps_note = !StoreNote(program, changes, failures) && changes.note;
+  if (changes.remove_shot) RemoveScreenShot(program, changes.index, failures);
+  if (counter) {
+    StoreCounter(program, changes.index, static_cast<std::int16_t>(*counter), failures);
+  }
+
+  program.main_window.ReplaceLine(changes.index, FormatListLine(program, changes.index));
+  program.archive.ArchiveChanged = true;
+  SelectOnly(program, changes.index);
+  TellFailures(program, failures, keeps_note);
+  return keeps_note ? ChangesAnswer::kNoteNotWritten : ChangesAnswer::kDone;
+}
+
+}  // namespace vellumark

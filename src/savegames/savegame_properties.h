@@ -1,0 +1,63 @@
+// What the savegame properties dialog shows and what its buttons do.
+#ifndef VELLUMARK_SAVEGAMES_SAVEGAME_PROPERTIES_H_
+#define VELLUMARK_SAVEGAMES_SAVEGAME_PROPERTIES_H_
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "savegames/typed_note.h"
+
+namespace vellumark {
+
+struct Program;
+
+// The command: opens the dialog on the one selected savegame. Another number of selected savegames
+// is refused.
+void ShowSavegameProperties(Program& program);
+
+// The dialog's fields. Its other operations take the index: it stays with the savegame that it was
+// opened on, whatever is selected meanwhile.
+struct SavegameProperties {
+  int index = 0;       // in the catalogue
+  std::string note{};  // in its stored form
+  std::string path{};
+  std::string level{};
+  std::string counter{};
+  std::string shot{};  // empty when there is no screen-shot
+};
+
+// The fields for the first selected savegame, with the opening sound.
+SavegameProperties PrepareSavegameProperties(Program& program);
+
+// The path of a savegame's screen-shot; empty when the file does not exist.
+std::string LinkedShot(Program& program, int index);
+
+// True when the bytes of a file are a picture that can be shown.
+using PictureTest = bool (*)(std::string_view bytes);
+
+// Asks for a picture and copies it at once over the savegame's screen-shot; a file that is no
+// picture only after a question. False when nothing has changed; a failure was told.
+bool ChooseScreenShot(Program& program, int index, PictureTest is_picture);
+
+struct SavegameChanges {
+  int index = 0;
+  std::optional<TypedNote> note{};  // nothing while the user has not changed it
+  std::string counter{};            // as typed; what is no number leaves the counter as it is
+  bool remove_shot = false;
+};
+
+enum class ChangesAnswer {
+  kRefused,         // the user was told why; nothing has been written
+  kNoteNotWritten,  // all but the changed note is done: the dialog must keep it
+  kDone,            // failures were told
+};
+
+// Writes the note, removes the screen-shot when asked to, writes a changed counter, and brings the
+// list and the details in step. A file that cannot be changed keeps what it held, and so does its
+// field in the catalogue; all such files are told in one message at the end.
+ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& changes);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_SAVEGAMES_SAVEGAME_PROPERTIES_H_

@@ -1,0 +1,122 @@
+#include "ui/archive_properties_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "archive/archive_properties.h"
+#include "program.h"
+#include "ui/path_label.h"
+
+namespace vellumark {
+namespace {
+
+QPushButton* Button(const char* name, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setObjectName(QLatin1String(name));
+  return button;
+}
+
+// One row: a label, the field that it speaks of, and perhaps a button.
+void AddRow(QGridLayout* grid, const char* label_name, QWidget* field, QPushButton* button) {
+  const int row = grid->rowCount();
+  auto* label = new QLabel(field->parentWidget());
+  label->setObjectName(QLatin1String(label_name));
+  label->setBuddy(button != nullptr ? static_cast<QWidget*>(button) : field);
+  grid->addWidget(label, row, 0);
+  grid->addWidget(field, row, 1);
+  if (button != nullptr) grid->addWidget(button, row, 2);
+}
+
+QLineEdit* Field(const char* name, QWidget* parent) {
+  auto* field = new QLineEdit(parent);
+  field->setObjectName(QLatin1String(name));
+  return field;
+}
+
+}  // namespace
+
+ArchivePropertiesDialog::ArchivePropertiesDialog(Program& program)
+    : ModalDialog(WindowId::kDialogSetNewArc, program),
+      main_folder_(new PathLabel("Label_PathArchivio", this)),
+      game_folder_(new PathLabel("Label_PathTr", this)),
+      executable_(new PathLabel("Label_TrExe", this)),
+      base_name_(Field("Text_nome_dir", this)),
+      max_savegame_(Field("Text_MaxSavegame", this)) {
+  auto* browse_main = Button("pul_sfoglia_dir", this);
+  auto* browse_game = Button("pul_sfoglia_tr", this);
+  auto* browse_executable = Button("pul_sfoglia_nome_tomb", this);
+  auto* ok = Button("Pul_Ok", this);
+  auto* cancel = Button("Pul_Cancel", this);
+  ok->setDefault(true);
+  // Enter is OK's, also after one of these was used.
+  for (QPushButton* browse : {browse_main, browse_game, browse_executable}) {
+    browse->setAutoDefault(false);
+  }
+
+  auto* grid = new QGridLayout;
+  AddRow(grid, "Label1", main_folder_, browse_main);
+  AddRow(grid, "Label3", base_name_, nullptr);
+  AddRow(grid, "Label2", game_folder_, browse_game);
+  AddRow(grid, "Label7", executable_, browse_executable);
+  AddRow(grid, "Label9", max_savegame_, nullptr);
+  grid->setColumnStretch(1, 1);
+  auto* buttons = new QDialogButtonBox(this);
+  buttons->addButton(ok, QDialogButtonBox::AcceptRole);
+  buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(grid);
+  column->addStretch(1);
+  column->addWidget(buttons);
+
+  QWidget* previous = browse_main;
+  for (QWidget* next : std::initializer_list<QWidget*>{base_name_, browse_game, browse_executable,
+                                                       max_savegame_, ok, cancel}) {
+    setTabOrder(previous, next);
+    previous = next;
+  }
+  SetCaptions();
+
+  connect(ok, &QPushButton::clicked, this, &ArchivePropertiesDialog::Accept);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  connect(browse_executable, &QPushButton::clicked, this,
+          &ArchivePropertiesDialog::ChooseExecutable);
+  connect(browse_main, &QPushButton::clicked, this, [this] {
+    main_folder_->SetPath(
+        ToText(ChooseMainFolder(this->program(), FromText(main_folder_->text()))));
+  });
+  connect(browse_game, &QPushButton::clicked, this, [this] {
+    game_folder_->SetPath(
+        ToText(ChooseGameFolder(this->program(), FromText(game_folder_->text()))));
+  });
+}
+
+void ArchivePropertiesDialog::ImpostaValori() {
+  const ArchivePropertiesFields fields = PrepareArchiveProperties(program());
+  main_folder_->SetPath(ToText(fields.main_folder));
+  game_folder_->SetPath(ToText(fields.game_folder));
+  executable_->SetPath(ToText(fields.executable));
+  base_name_->setText(ToText(fields.base_name));
+  max_savegame_->setText(ToText(fields.max_savegame));
+  setWindowTitle(ToText(ArchivePropertiesTitle(program())));
+}
+
+void ArchivePropertiesDialog::ChooseExecutable() {
+  const auto chosen = ChooseGameExecutable(program(), FromText(game_folder_->text()));
+  if (chosen) executable_->SetPath(ToText(*chosen));
+}
+
+void ArchivePropertiesDialog::Accept() {
+  // A base name with characters that the code page lacks becomes one that no disk can hold, which
+  // is refused.
+  const ArchivePropertiesFields fields{.main_folder = FromText(main_folder_->text()),
+                                       .base_name = FromText(base_name_->text()),
+                                       .game_folder = FromText(game_folder_->text()),
+                                       .executable = FromText(executable_->text()),
+                                       .max_savegame = FromText(max_savegame_->text())};
+  if (AcceptArchiveProperties(program(), fields)) accept();
+}
+
+}  // namespace vellumark
