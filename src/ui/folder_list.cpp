@@ -82,7 +82,7 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
 
 // The first click has gone to the folder already; the second is not meant for the line that has
 // come under the pointer since.
-void FolderList::mouseDoubleClickEvent(QMouseEvent* event) { QListView::mouseDoubleClickEvent(event); }
+void FolderList::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void FolderList::Pick(const QModelIndex& index) {
   if (!index.isValid() || !index.flags().testFlag(Qt::ItemIsEnabled)) return;
