@@ -1,9 +1,22 @@
 #include "savegames/notes.h"
 
 #include "foundation/file_utilities.h"
+#include "foundation/record.h"
 #include "foundation/strings.h"
 
 namespace vellumark {
+
+namespace {
+
+// True for a file that goes on after its note, as one that another editor has written.
+bool HoldsMoreThanANote(FileSystem& files, const std::string& path) {
+  const ReadResult read = files.Read(path, FileSystem::kWholeFile);
+  const std::string_view bytes = read.bytes;
+  const auto end = bytes.find('\r');
+  return end != std::string_view::npos && bytes.find_first_not_of("\r\n", end) != bytes.npos;
+}
+
+}  // namespace
 
 std::string DecodeNote(std::string_view bytes) {
   return std::string(bytes.substr(0, bytes.find('\r')));
@@ -14,6 +27,7 @@ std::string ReadNoteFile(FileSystem& files, const std::string& path) {
 }
 
 FileError WriteNoteFile(FileSystem& files, const std::string& path, std::string_view text) {
+  if (HoldsMoreThanANote(files, path) && !KeepBackupOf(files, path)) return FileError::kInputOutput;
   return ReplaceFile(files, path, NoteToStore(text) + "\r\n");
 }
 

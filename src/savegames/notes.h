@@ -17,7 +17,8 @@ std::string DecodeNote(std::string_view bytes);
 // The note of a note file in its stored form; empty when the file is empty or cannot be read.
 std::string ReadNoteFile(FileSystem& files, const std::string& path);
 
-// Makes or replaces a note file. Carriage returns of the text become 0x8D.
+// Makes or replaces a note file. Carriage returns of the text become 0x8D. A file that holds more
+// than the note that can be read of it is kept as `<name>.bak` first.
 FileError WriteNoteFile(FileSystem& files, const std::string& path, std::string_view text);
 
 // Between the stored form and the text of a text box, carriage return for 0x8D.

@@ -71,6 +71,15 @@ TEST(NotesTest, AreStoredWithTheirOwnLineBreakAndReadBackWhole) {
   EXPECT_EQ(DecodeNote(""), "");
 }
 
+TEST(NotesTest, KeepWhatAnotherEditorWroteBehindTheFirstLine) {
+  TestWorld world;
+  world.disk.Write("Game/note3.txt", "first\r\nsecond\r\n");
+  EXPECT_EQ(WriteNoteFile(world.files, "T:\\Game\\note3.txt", "new"), FileError::kNone);
+  EXPECT_EQ(world.disk.Read("Game/note3.txt.bak"), "first\r\nsecond\r\n");
+  EXPECT_EQ(WriteNoteFile(world.files, "T:\\Game\\note3.txt", "newer"), FileError::kNone);
+  EXPECT_FALSE(world.disk.Exists("Game/note3.txt.bak2")) << "a note of one record needs none";
+}
+
 TEST(SlotsOfTest, FindsWhatTestingEachNumberWouldFind) {
   TestWorld world;
   for (const char* name : {"SAVEGAME.3", "savegame.10", "savegame.16", "savegame.03", "savegame.",
