@@ -8,32 +8,20 @@
 
 #include "archive/archive_properties.h"
 #include "program.h"
+#include "ui/controls.h"
 #include "ui/path_label.h"
 
 namespace vellumark {
 namespace {
 
-QPushButton* Button(const char* name, QWidget* parent) {
-  auto* button = new QPushButton(parent);
-  button->setObjectName(QLatin1String(name));
-  return button;
-}
-
 // One row: a label, the field that it speaks of, and perhaps a button.
 void AddRow(QGridLayout* grid, const char* label_name, QWidget* field, QPushButton* button) {
   const int row = grid->rowCount();
-  auto* label = new QLabel(field->parentWidget());
-  label->setObjectName(QLatin1String(label_name));
+  auto* label = Named<QLabel>(label_name, field->parentWidget());
   label->setBuddy(button != nullptr ? static_cast<QWidget*>(button) : field);
   grid->addWidget(label, row, 0);
   grid->addWidget(field, row, 1);
   if (button != nullptr) grid->addWidget(button, row, 2);
-}
-
-QLineEdit* Field(const char* name, QWidget* parent) {
-  auto* field = new QLineEdit(parent);
-  field->setObjectName(QLatin1String(name));
-  return field;
 }
 
 }  // namespace
@@ -43,13 +31,13 @@ ArchivePropertiesDialog::ArchivePropertiesDialog(Program& program)
       main_folder_(new PathLabel("Label_PathArchivio", this)),
       game_folder_(new PathLabel("Label_PathTr", this)),
       executable_(new PathLabel("Label_TrExe", this)),
-      base_name_(Field("Text_nome_dir", this)),
-      max_savegame_(Field("Text_MaxSavegame", this)) {
-  auto* browse_main = Button("pul_sfoglia_dir", this);
-  auto* browse_game = Button("pul_sfoglia_tr", this);
-  auto* browse_executable = Button("pul_sfoglia_nome_tomb", this);
-  auto* ok = Button("Pul_Ok", this);
-  auto* cancel = Button("Pul_Cancel", this);
+      base_name_(Named<QLineEdit>("Text_nome_dir", this)),
+      max_savegame_(Named<QLineEdit>("Text_MaxSavegame", this)) {
+  auto* browse_main = Named<QPushButton>("pul_sfoglia_dir", this);
+  auto* browse_game = Named<QPushButton>("pul_sfoglia_tr", this);
+  auto* browse_executable = Named<QPushButton>("pul_sfoglia_nome_tomb", this);
+  auto* ok = Named<QPushButton>("Pul_Ok", this);
+  auto* cancel = Named<QPushButton>("Pul_Cancel", this);
   ok->setDefault(true);
   // Enter is OK's, also after one of these was used.
   for (QPushButton* browse : {browse_main, browse_game, browse_executable}) {
@@ -71,12 +59,8 @@ ArchivePropertiesDialog::ArchivePropertiesDialog(Program& program)
   column->addStretch(1);
   column->addWidget(buttons);
 
-  QWidget* previous = browse_main;
-  for (QWidget* next : std::initializer_list<QWidget*>{base_name_, browse_game, browse_executable,
-                                                       max_savegame_, ok, cancel}) {
-    setTabOrder(previous, next);
-    previous = next;
-  }
+  SetTabSequence(
+      {browse_main, base_name_, browse_game, browse_executable, max_savegame_, ok, cancel});
   SetCaptions();
 
   connect(ok, &QPushButton::clicked, this, &ArchivePropertiesDialog::Accept);

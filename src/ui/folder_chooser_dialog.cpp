@@ -13,16 +13,11 @@
 #include "foundation/own_messages.h"
 #include "maintenance/folder_chooser.h"
 #include "program.h"
+#include "ui/controls.h"
 #include "ui/folder_list.h"
 
 namespace vellumark {
 namespace {
-
-template <typename Widget>
-Widget* Named(Widget* widget, const char* name) {
-  widget->setObjectName(QLatin1String(name));
-  return widget;
-}
 
 QChar DriveOf(const std::string& folder) { return QChar(QLatin1Char(folder[0])).toUpper(); }
 
@@ -74,12 +69,7 @@ void FolderChooserDialog::BuildLayout() {
   column->addWidget(buttons);
   resize(460, 480);
 
-  QWidget* previous = drives_;
-  for (QWidget* next :
-       std::initializer_list<QWidget*>{folders_, path_, create_, name_, ok_, cancel_}) {
-    setTabOrder(previous, next);
-    previous = next;
-  }
+  SetTabSequence({drives_, folders_, path_, create_, name_, ok_, cancel_});
 }
 
 void FolderChooserDialog::NameControlsWithoutCaption() {

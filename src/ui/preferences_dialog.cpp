@@ -8,20 +8,10 @@
 
 #include "foundation/preferences_choice.h"
 #include "program.h"
+#include "ui/controls.h"
 #include "ui/path_label.h"
 
 namespace vellumark {
-namespace {
-
-template <typename Widget>
-Widget* Named(const char* name, QWidget* parent) {
-  auto* widget = new Widget(parent);
-  widget->setObjectName(QLatin1String(name));
-  return widget;
-}
-
-}  // namespace
-
 PreferencesDialog::PreferencesDialog(Program& program)
     : ModalDialog(WindowId::kDialogPref, program),
       sounds_(Named<QCheckBox>("Check_Suoni", this)),
@@ -50,12 +40,7 @@ PreferencesDialog::PreferencesDialog(Program& program)
   column->addStretch(1);
   column->addWidget(buttons);
 
-  QWidget* previous = sounds_;
-  for (QWidget* next :
-       std::initializer_list<QWidget*>{capture_, all_subfolders_, browse, ok, cancel}) {
-    setTabOrder(previous, next);
-    previous = next;
-  }
+  SetTabSequence({sounds_, capture_, all_subfolders_, browse, ok, cancel});
   SetCaptions();
 
   connect(ok, &QPushButton::clicked, this, &PreferencesDialog::Accept);

@@ -25,6 +25,7 @@
 #include "savegames/list_line.h"
 #include "ui/caption_setter.h"
 #include "ui/commands.h"
+#include "ui/controls.h"
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
 #include "ui/savegame_list.h"
@@ -36,12 +37,6 @@ namespace {
 // What a window manager's frame takes of a small screen.
 constexpr QSize kFrameRoom(16, 40);
 constexpr int kTimerInterval = 500;  // milliseconds
-
-template <typename Widget>
-Widget* Named(Widget* widget, const char* name) {
-  widget->setObjectName(QLatin1String(name));
-  return widget;
-}
 
 // A field that shows a text: it can be read, marked and copied, not changed.
 QLineEdit* ReadOnlyField(const char* name, QWidget* parent) {

@@ -13,6 +13,7 @@
 #include "foundation/messages.h"
 #include "program.h"
 #include "savegames/savegame_properties.h"
+#include "ui/controls.h"
 #include "ui/note_box.h"
 #include "ui/path_label.h"
 
@@ -20,13 +21,6 @@ namespace vellumark {
 namespace {
 
 constexpr int kNoteCaption = 158;
-
-template <typename Widget>
-Widget* Named(const char* name, QWidget* parent) {
-  auto* widget = new Widget(parent);
-  widget->setObjectName(QLatin1String(name));
-  return widget;
-}
 
 QLineEdit* ReadOnlyField(const char* name, QWidget* parent) {
   auto* field = Named<QLineEdit>(name, parent);
@@ -106,12 +100,7 @@ void SavegamePropertiesDialog::BuildLayout() {
   column->addWidget(buttons);
   resize(620, 480);
 
-  QWidget* previous = path_;
-  for (QWidget* next : std::initializer_list<QWidget*>{level_, counter_, note_, browse_,
-                                                       remove_shot_, ok_, cancel_}) {
-    setTabOrder(previous, next);
-    previous = next;
-  }
+  SetTabSequence({path_, level_, counter_, note_, browse_, remove_shot_, ok_, cancel_});
 }
 
 void SavegamePropertiesDialog::ImpostaValori() {

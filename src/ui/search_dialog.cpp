@@ -12,16 +12,10 @@
 #include "foundation/sound_effects.h"
 #include "program.h"
 #include "savegames/search.h"
+#include "ui/controls.h"
 
 namespace vellumark {
 namespace {
-
-template <typename Widget>
-Widget* Named(const char* name, QWidget* parent) {
-  auto* widget = new Widget(parent);
-  widget->setObjectName(QLatin1String(name));
-  return widget;
-}
 
 QGroupBox* FrameAround(const char* name, std::initializer_list<QCheckBox*> boxes, QWidget* parent) {
   auto* frame = Named<QGroupBox>(name, parent);
@@ -59,12 +53,7 @@ SearchDialog::SearchDialog(Program& program)
   column->addStretch(1);
   column->addWidget(buttons);
 
-  QWidget* previous = text_;
-  for (QWidget* next : std::initializer_list<QWidget*>{in_level_names_, in_notes_, with_shot_,
-                                                       with_note_, find, cancel}) {
-    setTabOrder(previous, next);
-    previous = next;
-  }
+  SetTabSequence({text_, in_level_names_, in_notes_, with_shot_, with_note_, find, cancel});
   SetCaptions();
 
   Preferences& preferences = program.preferences;

@@ -12,7 +12,6 @@
 #include <memory>
 
 #include "foundation/messages.h"
-#include "foundation/start_up.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "support/test_world.h"
@@ -20,6 +19,7 @@
 #include "ui/picture_box.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_shot_viewer.h"
+#include "ui/shown_program.h"
 
 namespace vellumark {
 
@@ -80,22 +80,7 @@ void PrincipaleTest::init() {
   world_->disk.Write("Archive/Slot1/shot2.jpg", "no picture at all");
 }
 
-void PrincipaleTest::Start() {
-  window_ = std::make_unique<Principale>(world_->files, world_->text);
-  program_.reset(new Program{.files = world_->files,
-                             .text = world_->text,
-                             .boxes = world_->boxes,
-                             .file_dialogs = world_->dialogs,
-                             .sounds = world_->sounds,
-                             .shell = world_->shell,
-                             .windows = *window_,
-                             .main_window = *window_});
-  program_->paths.ProgramFolder = "T:\\Program";
-  window_->Attach(*program_);
-  MainWindowLoaded(*program_);
-  window_->show();
-  QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
-}
+void PrincipaleTest::Start() { ShowProgram(*world_, window_, program_); }
 
 void PrincipaleTest::cleanup() {
   window_.reset();

@@ -12,7 +12,6 @@
 #include <memory>
 
 #include "foundation/messages.h"
-#include "foundation/start_up.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "savegames/details.h"
@@ -21,6 +20,7 @@
 #include "ui/note_box.h"
 #include "ui/principale.h"
 #include "ui/savegame_list.h"
+#include "ui/shown_program.h"
 
 namespace vellumark {
 
@@ -91,20 +91,7 @@ void SavegamePropertiesDialogTest::init() {
   world_->AddSavegame("Archive/Slot1", 3, "Tower", 12);
   world_->disk.Write("Archive/Slot1/NOTE3.TXT", "one\x8D\ntwo\r\n");
   world_->disk.Write("Archive/Slot1/shot3.jpg", Jpeg());
-  window_ = std::make_unique<Principale>(world_->files, world_->text);
-  program_.reset(new Program{.files = world_->files,
-                             .text = world_->text,
-                             .boxes = world_->boxes,
-                             .file_dialogs = world_->dialogs,
-                             .sounds = world_->sounds,
-                             .shell = world_->shell,
-                             .windows = *window_,
-                             .main_window = *window_});
-  program_->paths.ProgramFolder = "T:\\Program";
-  window_->Attach(*program_);
-  MainWindowLoaded(*program_);
-  window_->show();
-  QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+  ShowProgram(*world_, window_, program_);
   SelectOnly(*program_, 1);
 }
 

@@ -13,13 +13,13 @@
 #include <memory>
 
 #include "foundation/messages.h"
-#include "foundation/start_up.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "support/test_world.h"
 #include "ui/access_keys.h"
 #include "ui/principale.h"
 #include "ui/savegame_list.h"
+#include "ui/shown_program.h"
 
 namespace vellumark {
 
@@ -73,20 +73,7 @@ void SearchDialogTest::init() {
   world_->AddSavegame("Archive/Slot1", 2, "Old Tower", 3);
   world_->disk.Write("Archive/Slot1/note0.txt", "before the tower, \xE9t\xE9\r\n");
 
-  window_ = std::make_unique<Principale>(world_->files, world_->text);
-  program_.reset(new Program{.files = world_->files,
-                             .text = world_->text,
-                             .boxes = world_->boxes,
-                             .file_dialogs = world_->dialogs,
-                             .sounds = world_->sounds,
-                             .shell = world_->shell,
-                             .windows = *window_,
-                             .main_window = *window_});
-  program_->paths.ProgramFolder = "T:\\Program";
-  window_->Attach(*program_);
-  MainWindowLoaded(*program_);
-  window_->show();
-  QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+  ShowProgram(*world_, window_, program_);
 }
 
 void SearchDialogTest::cleanup() {

@@ -10,7 +10,6 @@
 #include <memory>
 
 #include "foundation/messages.h"
-#include "foundation/start_up.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "support/test_world.h"
@@ -18,6 +17,7 @@
 #include "ui/modal_dialog.h"
 #include "ui/path_label.h"
 #include "ui/principale.h"
+#include "ui/shown_program.h"
 
 namespace vellumark {
 
@@ -59,20 +59,7 @@ void SettingsDialogsTest::init() {
   world_ = std::make_unique<testing::TestWorld>();
   world_->WriteArchiveFile();
   world_->WritePreferences();
-  window_ = std::make_unique<Principale>(world_->files, world_->text);
-  program_.reset(new Program{.files = world_->files,
-                             .text = world_->text,
-                             .boxes = world_->boxes,
-                             .file_dialogs = world_->dialogs,
-                             .sounds = world_->sounds,
-                             .shell = world_->shell,
-                             .windows = *window_,
-                             .main_window = *window_});
-  program_->paths.ProgramFolder = "T:\\Program";
-  window_->Attach(*program_);
-  MainWindowLoaded(*program_);
-  window_->show();
-  QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+  ShowProgram(*world_, window_, program_);
 }
 
 void SettingsDialogsTest::cleanup() {
