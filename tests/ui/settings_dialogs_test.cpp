@@ -109,6 +109,8 @@ void SettingsDialogsTest::CaptionsAndAccessKeysAreInOrder() {
       keys.insert(text[mark + 1].toLower());
     }
     QVERIFY(dialog->width() <= 1024 && dialog->height() <= 600);
+    const QPoint off_centre = dialog->frameGeometry().center() - window_->frameGeometry().center();
+    QVERIFY2(off_centre.manhattanLength() <= 60, "it opens over the middle of its opener");
   });
 }
 
