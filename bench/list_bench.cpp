@@ -70,6 +70,8 @@ class FilledWindow {
   vellumark::testing::ScriptedFileDialogs dialogs_;
   vellumark::testing::RecordedSounds sounds_;
   vellumark::testing::RecordedShell shell_;
+  vellumark::testing::ScriptedDesktopWindows desktop_;
+  vellumark::testing::ScriptedClipboard clipboard_;
   Principale window_{files_, *text_};
   Program program_{.files = files_,
                    .text = *text_,
@@ -77,6 +79,8 @@ class FilledWindow {
                    .file_dialogs = dialogs_,
                    .sounds = sounds_,
                    .shell = shell_,
+                   .desktop = desktop_,
+                   .clipboard = clipboard_,
                    .windows = window_,
                    .main_window = window_};
   double scan_ended_ = 0;

@@ -100,6 +100,8 @@ class SearchedProgram {
   vellumark::testing::ScriptedFileDialogs dialogs_;
   vellumark::testing::RecordedSounds sounds_;
   vellumark::testing::RecordedShell shell_;
+  vellumark::testing::ScriptedDesktopWindows desktop_;
+  vellumark::testing::ScriptedClipboard clipboard_;
   vellumark::testing::ScriptedWindows windows_;
   Program program_{.files = *files_,
                    .text = *text_,
@@ -107,6 +109,8 @@ class SearchedProgram {
                    .file_dialogs = dialogs_,
                    .sounds = sounds_,
                    .shell = shell_,
+                   .desktop = desktop_,
+                   .clipboard = clipboard_,
                    .windows = windows_,
                    .main_window = windows_};
 };

@@ -13,11 +13,13 @@
 #include "foundation/start_up.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_shell.h"
 #include "platform/qt/qt_sound_player.h"
 #include "platform/system_services.h"
+#include "platform/x11/x11_desktop_windows.h"
 #include "program.h"
 #include "ui/principale.h"
 
@@ -81,6 +83,8 @@ int main(int argc, char* argv[]) {
   QtFileDialogs file_dialogs(*files, *text, boxes);
   QtSoundPlayer sounds(QCoreApplication::applicationDirPath());
   QtShell shell;
+  X11DesktopWindows desktop;
+  QtClipboard clipboard;
   Principale window(*files, *text);
   Program program{.files = *files,
                   .text = *text,
@@ -88,6 +92,8 @@ int main(int argc, char* argv[]) {
                   .file_dialogs = file_dialogs,
                   .sounds = sounds,
                   .shell = shell,
+                  .desktop = desktop,
+                  .clipboard = clipboard,
                   .windows = window,
                   .main_window = window};
   program.paths.ProgramFolder = *program_folder;

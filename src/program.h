@@ -17,6 +17,8 @@
 
 namespace vellumark {
 
+class Clipboard;
+class DesktopWindows;
 class FileDialogs;
 class FileSystem;
 class MainWindow;
@@ -34,6 +36,8 @@ struct Program {
   FileDialogs& file_dialogs;
   SoundPlayer& sounds;
   Shell& shell;
+  DesktopWindows& desktop;
+  Clipboard& clipboard;
   Windows& windows;
   MainWindow& main_window;
 

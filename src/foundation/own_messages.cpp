@@ -71,6 +71,11 @@ constexpr TableMessage kOwnMessages[] = {
     {kImportNotRenamed, "The last savegame could not become savegame.0 and is still ~1: ~2."},
     {kInfoNotWritten, "The list of the imported savegames could not be added to ~1: ~2."},
 
+    {kGameNotStarted, "The game could not be started: ~1"},
+    {kGameNeeds,
+     "The game ~1 cannot be started: it needs ~2, which is not installed on this computer.\r\n"
+     "The savegames are in its slots; start it yourself."},
+
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
     {kNoteCharacters,
      "A note cannot hold these characters: ~1\r\nThe first of them is marked. Nothing has been "

@@ -39,6 +39,10 @@ enum OwnMessage : int {
   kImportNotRenamed,  // ~1 file name, ~2 reason
   kInfoNotWritten,    // ~1 file, ~2 reason
 
+  // Playing
+  kGameNotStarted,  // ~1 executable
+  kGameNeeds,       // ~1 executable, ~2 program
+
   // Savegame properties
   kCounterOutOfRange,  // no values
   kNoteCharacters,     // ~1 characters

@@ -19,6 +19,10 @@ class Windows {
   // state.
   virtual void ShowModal(WindowId dialog) = 0;
 
+  // Makes a dialog that does not block the others, prepares it and shows it as a child of the
+  // window that is modal at that moment, so that it takes input; nothing when it is open already.
+  virtual void ShowModeless(WindowId dialog) = 0;
+
   // Closes a dialog and releases it; nothing when it is not open.
   virtual void CloseDialog(WindowId window) = 0;
 };

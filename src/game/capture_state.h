@@ -2,12 +2,24 @@
 #ifndef VELLUMARK_GAME_CAPTURE_STATE_H_
 #define VELLUMARK_GAME_CAPTURE_STATE_H_
 
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/clipboard.h"
+
 namespace vellumark {
 
 struct CaptureState {
   bool CaptureArmed = false;  // the timer reacts to a picture on the clipboard
   bool CaptureDialogOpen = false;
   bool ShotLinkedNotImported = false;  // a screen-shot was linked to a slot not yet archived
+
+  // The capture dialog's own, from its opening on.
+  std::shared_ptr<const Picture> picture{};  // what the timer took from the clipboard
+  std::int16_t SelectedSlot = -1;            // the line that is chosen; -1 for none
+  std::string SelectedLevelName{};
+  std::int16_t SelectedCounter = 0;
 };
 
 }  // namespace vellumark

@@ -2,15 +2,38 @@
 #ifndef VELLUMARK_GAME_PLAY_STATE_H_
 #define VELLUMARK_GAME_PLAY_STATE_H_
 
+#include <cstdint>
 #include <string>
+#include <vector>
+
+#include "platform/desktop_windows.h"
 
 namespace vellumark {
+
+// A file that a play put into the game folder, as it was then.
+struct PlacedFile {
+  std::string name;
+  std::string bytes;
+};
 
 struct PlayState {
   // True from the first play of the run on: the game's slots hold archived savegames, and
   // BackupFolder holds the player's own.
   bool ExaminedInGameFolder = false;
   std::string BackupFolder;  // the folder `temp` beside the program
+
+  // The catalogue indices of the last play's savegames at that time; entry k went into slot k.
+  // Slots and catalogue may have changed since: ask ExaminedEntry (game/examined.h).
+  std::vector<std::int16_t> ExaminedList;
+  std::int16_t ExaminedCount() const { return static_cast<std::int16_t>(ExaminedList.size()); }
+  std::vector<std::string> examined_paths;  // the savegame files that they came from
+  std::vector<PlacedFile> placed;           // all files that plays have put into `backup_of`
+
+  std::string backup_of;               // the game folder that the backup was taken from
+  std::vector<std::string> backed_up;  // the names of the files that the backup should hold
+
+  std::vector<TopLevelWindow> WindowList;  // of the last lookup, titles in the code page
+  bool told_not_started = false;           // the user knows why the game cannot be started
 };
 
 }  // namespace vellumark

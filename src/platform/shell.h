@@ -16,6 +16,10 @@ class Shell {
   // wait for what it started. False when the document is missing or the system refuses.
   virtual bool Open(const std::string& document, const std::string& parameters,
                     const std::string& working_folder, bool hidden) = 0;
+
+  // The name of a program that `document` needs to be opened and that this system lacks (Wine, for
+  // a Windows program on Linux); empty when nothing is known to be missing.
+  virtual std::string MissingFor(const std::string& document) = 0;
 };
 
 }  // namespace vellumark

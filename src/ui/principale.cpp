@@ -304,6 +304,8 @@ void Principale::ShowModal(WindowId dialog) {
   window->exec();
 }
 
+void Principale::ShowModeless(WindowId /*dialog*/) {}
+
 void Principale::CloseDialog(WindowId window) {
   if (window == WindowId::kDialogScreenShot && viewer_ != nullptr) viewer_->close();
   if (QDialog* dialog = open_dialogs_[window]) dialog->reject();

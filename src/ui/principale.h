@@ -49,6 +49,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   // Windows
   void SetCaptions(WindowId window) override;
   void ShowModal(WindowId dialog) override;
+  void ShowModeless(WindowId dialog) override;
   void CloseDialog(WindowId window) override;
 
  signals:

@@ -59,6 +59,8 @@ class FolderChooserTest : public ::testing::Test {
                   .file_dialogs = world.dialogs,
                   .sounds = world.sounds,
                   .shell = world.shell,
+                  .desktop = world.desktop,
+                  .clipboard = world.clipboard,
                   .windows = world.windows,
                   .main_window = world.windows};
 };

@@ -46,6 +46,27 @@ bool RecordedShell::Open(const std::string& document, const std::string& paramet
   return answer;
 }
 
+Activation ScriptedDesktopWindows::Activate(WindowHandle window, ProcessId /*process*/) {
+  if (answer == Activation::kActivated) {
+    activated.push_back(window);
+    active = window;
+  }
+  return answer;
+}
+
+ClipboardRead ScriptedClipboard::ReadPicture() {
+  ++reads;
+  if (busy) return {ClipboardAnswer::kBusy, nullptr};
+  if (content == nullptr) return {};
+  return {ClipboardAnswer::kPicture, content};
+}
+
+void ScriptedClipboard::Empty() {
+  ++emptied;
+  content = nullptr;
+  if (after_empty) after_empty();
+}
+
 void ScriptedWindows::ShowLines(std::vector<std::string> new_lines) {
   lines = std::move(new_lines);
   selected.clear();

@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "foundation/windows.h"
+#include "platform/clipboard.h"
+#include "platform/desktop_windows.h"
 #include "platform/file_dialogs.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
@@ -57,6 +59,7 @@ class RecordedShell final : public Shell {
  public:
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
+  std::string MissingFor(const std::string& /*document*/) override { return missing; }
 
   struct Opened {
     std::string document;
@@ -66,6 +69,48 @@ class RecordedShell final : public Shell {
   };
   std::vector<Opened> opened;
   bool answer = true;
+  std::string missing;
+};
+
+// The windows of other programs.
+class ScriptedDesktopWindows final : public DesktopWindows {
+ public:
+  std::vector<TopLevelWindow> List() override { return open; }
+  WindowHandle ActiveWindow() override { return active; }
+  ProcessId ProcessOf(WindowHandle window) override { return window + 1000; }
+  Activation Activate(WindowHandle window, ProcessId process) override;
+  void PressEnter() override { entered.push_back(active); }
+
+  std::vector<TopLevelWindow> open;
+  WindowHandle active = 0;
+  Activation answer = Activation::kActivated;
+  std::vector<WindowHandle> activated;
+  std::vector<WindowHandle> entered;  // the windows that got the Enter key
+};
+
+class ScriptedPicture final : public Picture {
+ public:
+  explicit ScriptedPicture(std::string jpeg) : jpeg_(std::move(jpeg)) {}
+  std::optional<std::string> ToJpeg() const override {
+    return jpeg_.empty() ? std::nullopt : std::optional(jpeg_);
+  }
+
+ private:
+  std::string jpeg_;
+};
+
+class ScriptedClipboard final : public Clipboard {
+ public:
+  ClipboardRead ReadPicture() override;
+  void Empty() override;
+
+  void Put(const std::string& jpeg) { content = std::make_shared<ScriptedPicture>(jpeg); }
+
+  std::shared_ptr<const Picture> content;
+  bool busy = false;
+  int reads = 0;
+  int emptied = 0;
+  std::function<void()> after_empty;  // what another program does right then
 };
 
 class ScriptedWindows final : public MainWindow, public Windows {
@@ -80,6 +125,10 @@ class ScriptedWindows final : public MainWindow, public Windows {
   void SetCaptions(WindowId window) override { events.push_back({"captions", window}); }
   void ShowModal(WindowId dialog) override {
     events.push_back({"modal", dialog});
+    if (in_dialog) in_dialog(dialog);
+  }
+  void ShowModeless(WindowId dialog) override {
+    events.push_back({"modeless", dialog});
     if (in_dialog) in_dialog(dialog);
   }
   void CloseDialog(WindowId window) override { events.push_back({"close", window}); }

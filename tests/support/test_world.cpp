@@ -32,6 +32,8 @@ Program TestWorld::NewProgram() {
                   .file_dialogs = dialogs,
                   .sounds = sounds,
                   .shell = shell,
+                  .desktop = desktop,
+                  .clipboard = clipboard,
                   .windows = windows,
                   .main_window = windows};
   program.paths.ProgramFolder = "T:\\Program";

@@ -41,6 +41,8 @@ class TestWorld {
   ScriptedFileDialogs dialogs;
   RecordedSounds sounds;
   RecordedShell shell;
+  ScriptedDesktopWindows desktop;
+  ScriptedClipboard clipboard;
   ScriptedWindows windows;
 };
 

@@ -40,6 +40,8 @@ struct FolderChooserDesktop {
                   .file_dialogs = world.dialogs,
                   .sounds = world.sounds,
                   .shell = world.shell,
+                  .desktop = world.desktop,
+                  .clipboard = world.clipboard,
                   .windows = window,
                   .main_window = window};
 };

@@ -22,6 +22,8 @@ inline void ShowProgram(testing::TestWorld& world, std::unique_ptr<Principale>& 
                             .file_dialogs = world.dialogs,
                             .sounds = world.sounds,
                             .shell = world.shell,
+                            .desktop = world.desktop,
+                            .clipboard = world.clipboard,
                             .windows = *window,
                             .main_window = *window});
   program->paths.ProgramFolder = "T:\\Program";

@@ -20,4 +20,6 @@ bool QtShell::Open(const std::string& document, const std::string& parameters,
   return QDesktopServices::openUrl(QUrl::fromLocalFile(file.filePath()));
 }
 
+std::string QtShell::MissingFor(const std::string& /*document*/) { return {}; }
+
 }  // namespace vellumark

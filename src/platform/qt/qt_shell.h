@@ -10,6 +10,7 @@ class QtShell final : public Shell {
  public:
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
+  std::string MissingFor(const std::string& document) override;
 };
 
 }  // namespace vellumark

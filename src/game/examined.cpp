@@ -1,0 +1,53 @@
+#include "game/examined.h"
+
+#include <algorithm>
+
+#include "foundation/paths.h"
+#include "foundation/strings.h"
+#include "program.h"
+#include "savegames/savegame_header.h"
+#include "savegames/slot_names.h"
+
+namespace vellumark {
+namespace {
+
+// What a file holds; nothing when it cannot be read.
+std::optional<std::string> ContentOf(Program& program, const std::string& path) {
+  ReadResult read = program.files.Read(path, FileSystem::kWholeFile);
+  if (read.error != FileError::kNone) return std::nullopt;
+  return std::move(read.bytes);
+}
+
+// The counter is the one thing of an archived savegame that the user can change.
+std::string WithoutCounter(std::string bytes) {
+  constexpr std::size_t kCounterSize = 2;
+  if (bytes.size() >= kSavegameHeaderSize) {
+    bytes.replace(kSavegameHeaderSize - kCounterSize, kCounterSize, kCounterSize, '\0');
+  }
+  return bytes;
+}
+
+}  // namespace
+
+std::optional<int> ExaminedEntry(Program& program, int slot) {
+  const PlayState& play = program.play;
+  if (!play.ExaminedInGameFolder || slot < 0 || slot >= play.ExaminedCount()) return std::nullopt;
+
+  const auto place = static_cast<std::size_t>(slot);
+  const auto index = static_cast<std::size_t>(play.ExaminedList[place]);
+  const auto& entries = program.catalogue.entries;
+  if (index >= entries.size() || entries[index].FolderNumber == 0) return std::nullopt;
+  const std::string& path = entries[index].SavegamePath;
+  if (!SamePath(program.text, path, play.examined_paths[place])) return std::nullopt;
+
+  const std::string name = SavegameFileName(slot);
+  const auto placed = std::ranges::find(play.placed, name, &PlacedFile::name);
+  if (placed == play.placed.end()) return std::nullopt;
+  const std::string game_folder = Trimmed(program.archive.settings.GameFolder);
+  if (ContentOf(program, InFolder(game_folder, name)) != placed->bytes) return std::nullopt;
+  const auto archived = ContentOf(program, path);
+  if (!archived || WithoutCounter(*archived) != WithoutCounter(placed->bytes)) return std::nullopt;
+  return static_cast<int>(index);
+}
+
+}  // namespace vellumark

@@ -1,0 +1,19 @@
+// Which archived savegame a slot of the game holds.
+#ifndef VELLUMARK_GAME_EXAMINED_H_
+#define VELLUMARK_GAME_EXAMINED_H_
+
+#include <optional>
+
+namespace vellumark {
+
+struct Program;
+
+// The catalogue index of the archived savegame that the last play put into a slot, when it is still
+// there: the slot's file is byte for byte what the play put there, and the entry that ExaminedList
+// names is still that savegame (its counter may have been edited). Nothing otherwise. Whoever
+// writes through ExaminedList asks first.
+std::optional<int> ExaminedEntry(Program& program, int slot);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_GAME_EXAMINED_H_

@@ -1,0 +1,45 @@
+// The picture on the clipboard.
+#ifndef VELLUMARK_PLATFORM_CLIPBOARD_H_
+#define VELLUMARK_PLATFORM_CLIPBOARD_H_
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace vellumark {
+
+// A picture that was taken from the clipboard; it stays what it is when the clipboard changes.
+class Picture {
+ public:
+  virtual ~Picture() = default;
+
+  // The picture as the bytes of a JPEG file; nothing when it cannot be encoded.
+  virtual std::optional<std::string> ToJpeg() const = 0;
+};
+
+enum class ClipboardAnswer {
+  kNoPicture,
+  kPicture,
+  kBusy,  // it could not be opened just now; another moment may do
+};
+
+struct ClipboardRead {
+  ClipboardAnswer answer = ClipboardAnswer::kNoPicture;
+  std::shared_ptr<const Picture> picture{};  // set when answer is kPicture
+};
+
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+
+  // Takes the picture, in whichever picture format the clipboard offers. The conversion costs
+  // milliseconds, so callers ask only when they want one.
+  virtual ClipboardRead ReadPicture() = 0;
+
+  // Empties the clipboard, whatever it holds.
+  virtual void Empty() = 0;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_CLIPBOARD_H_

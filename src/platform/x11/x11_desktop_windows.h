@@ -1,0 +1,20 @@
+// Windows of an X server.
+#ifndef VELLUMARK_PLATFORM_X11_X11_DESKTOP_WINDOWS_H_
+#define VELLUMARK_PLATFORM_X11_X11_DESKTOP_WINDOWS_H_
+
+#include "platform/desktop_windows.h"
+
+namespace vellumark {
+
+class X11DesktopWindows final : public DesktopWindows {
+ public:
+  std::vector<TopLevelWindow> List() override;
+  WindowHandle ActiveWindow() override;
+  ProcessId ProcessOf(WindowHandle window) override;
+  Activation Activate(WindowHandle window, ProcessId process) override;
+  void PressEnter() override;
+};
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_X11_X11_DESKTOP_WINDOWS_H_
