@@ -71,6 +71,36 @@ constexpr TableMessage kOwnMessages[] = {
     {kImportNotRenamed, "The last savegame could not become savegame.0 and is still ~1: ~2."},
     {kInfoNotWritten, "The list of the imported savegames could not be added to ~1: ~2."},
 
+    {kPlaySourceInGameFolder,
+     "The savegame ~1 cannot be played: its file lies in Tomb Raider folder ~2 itself, or in the "
+     "backup folder, under another name. Nothing has been changed."},
+    {kGameFolderIsBackup,
+     "Savegames cannot be played: Tomb Raider folder ~1 is the folder in which Vellumark keeps the "
+     "backup of your own slots."},
+    {kOtherBackupSetAside,
+     "The backup of your own slots in Tomb Raider folder ~1 has been moved in ~2, because "
+     "savegames are played in another folder now. Nothing of it was lost."},
+    {kPlayNotBackedUp,
+     "The selected savegames have not been put into the slots, because your own slots could not be "
+     "put aside. Nothing has been changed in Tomb Raider folder ~1. The reason:"},
+    {kSlotsNotCleared,
+     "Warning: the slots in Tomb Raider folder ~1 could not be emptied. These files are still "
+     "there:"},
+    {kGameSlotsSetAside,
+     "In Tomb Raider folder ~1 there were savegames that had been saved since the last play. They "
+     "have been moved in ~2 and nothing of them was lost."},
+    {kPlayNotCopied,
+     "Warning: not all selected savegames could be put into the slots of Tomb Raider folder ~1. "
+     "These could not be copied, and are where they were:"},
+    {kBackupNotWhole,
+     "The original savegames cannot be restored, because their backup is not whole. Nothing has "
+     "been changed in Tomb Raider folder ~1; what is left of the backup is in ~2. These files are "
+     "missing or cannot be read:"},
+    {kRestoreNotCopied,
+     "Warning: these original savegames could not be put back into Tomb Raider folder ~1. They are "
+     "still in ~2:"},
+    {kRestoredElsewhere,
+     "The original savegames have been restored in folder ~1, from which they had been taken."},
     {kGameNotStarted, "The game could not be started: ~1"},
     {kGameNeeds,
      "The game ~1 cannot be started: it needs ~2, which is not installed on this computer.\r\n"

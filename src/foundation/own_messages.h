@@ -40,8 +40,18 @@ enum OwnMessage : int {
   kInfoNotWritten,    // ~1 file, ~2 reason
 
   // Playing
-  kGameNotStarted,  // ~1 executable
-  kGameNeeds,       // ~1 executable, ~2 program
+  kPlaySourceInGameFolder,  // ~1 savegame, ~2 game folder
+  kGameFolderIsBackup,      // ~1 game folder
+  kOtherBackupSetAside,     // ~1 other game folder, ~2 new folder
+  kPlayNotBackedUp,         // ~1 game folder; followed by failure lines
+  kSlotsNotCleared,         // ~1 game folder; followed by failure lines
+  kGameSlotsSetAside,       // ~1 game folder, ~2 new folder
+  kPlayNotCopied,           // ~1 game folder; followed by failure lines
+  kBackupNotWhole,          // ~1 game folder, ~2 backup folder; followed by failure lines
+  kRestoreNotCopied,        // ~1 game folder, ~2 backup folder; followed by failure lines
+  kRestoredElsewhere,       // ~1 game folder
+  kGameNotStarted,          // ~1 executable
+  kGameNeeds,               // ~1 executable, ~2 program
 
   // Savegame properties
   kCounterOutOfRange,  // no values

@@ -7,6 +7,7 @@
 #include "foundation/talk.h"
 #include "foundation/windows.h"
 #include "game/restore.h"
+#include "game/slot_backup.h"
 #include "program.h"
 
 namespace vellumark {
@@ -31,6 +32,7 @@ void ShutDown(Program& program) {
     PlaySoundEffect(program, SoundEffect::kNotice);
     Tell(program, LoadMessage(285, {kCarriageReturn}), BoxIcon::kExclamation);
   }
+  if (program.play.ExaminedInGameFolder) ReleaseBackup(program);
 }
 
 }  // namespace vellumark

@@ -30,6 +30,7 @@ struct PlayState {
   std::vector<PlacedFile> placed;           // all files that plays have put into `backup_of`
 
   std::string backup_of;               // the game folder that the backup was taken from
+  bool backup_whole = false;           // all of that folder's slots arrived in the backup
   std::vector<std::string> backed_up;  // the names of the files that the backup should hold
 
   std::vector<TopLevelWindow> WindowList;  // of the last lookup, titles in the code page

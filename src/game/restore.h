@@ -6,8 +6,10 @@ namespace vellumark {
 
 struct Program;
 
-// Nothing to give back unless archived savegames are in the game's slots. It works on the game
-// folder that the settings name at the moment of the call.
+// Asks whether the player's own slots shall come back, when a play has put others into the game's.
+// Yes: what the game saved meanwhile is set aside, the slots of the folder that the backup was
+// taken from are cleared and the backup is copied back. Nothing is cleared unless the backup is
+// whole. The backup stays, and a later call asks again.
 void RestoreOriginalSavegames(Program& program);
 
 }  // namespace vellumark

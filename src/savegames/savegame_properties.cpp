@@ -13,6 +13,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "game/backup_list.h"
 #include "platform/file_dialogs.h"
 #include "program.h"
 #include "savegames/details.h"
@@ -83,6 +84,8 @@ void RemoveScreenShot(Program& program, int index, Failures& failures) {
     Tell(program, LoadMessage(162));
   } else if (const FileError error = program.files.Delete(shot); error != FileError::kNone) {
     failures.push_back({shot, error});
+  } else {
+    ForgetBackedUp(program, shot);
   }
 }
 

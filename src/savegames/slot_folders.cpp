@@ -9,11 +9,13 @@
 namespace vellumark {
 namespace {
 
-void AddMatching(FileSystem& files, const std::string& folder, const std::string& pattern,
-                 std::vector<std::string>& paths) {
-  for (const FolderEntry& entry : files.List(folder + pattern).entries) {
+FileError AddMatching(FileSystem& files, const std::string& folder, const std::string& pattern,
+                      std::vector<std::string>& paths) {
+  const Listing listing = files.List(folder + pattern);
+  for (const FolderEntry& entry : listing.entries) {
     if (entry.plain) paths.push_back(InFolder(folder, entry.name));
   }
+  return listing.error;
 }
 
 }  // namespace
@@ -52,11 +54,15 @@ std::vector<Failure> ClearSlots(FileSystem& files, const std::string& folder) {
   return failures;
 }
 
-std::vector<std::string> FilesOfSlots(FileSystem& files, const std::string& folder) {
+std::vector<std::string> FilesOfSlots(FileSystem& files, const std::string& folder,
+                                      FileError* why) {
   std::vector<std::string> paths;
-  AddMatching(files, folder, LoadMessage(314), paths);
-  AddMatching(files, folder, LoadMessage(316), paths);
-  AddMatching(files, folder, LoadMessage(318), paths);
+  FileError first_error = FileError::kNone;
+  for (const int pattern : {314, 316, 318}) {
+    const FileError error = AddMatching(files, folder, LoadMessage(pattern), paths);
+    if (first_error == FileError::kNone) first_error = error;
+  }
+  if (why != nullptr) *why = first_error;
   return paths;
 }
 

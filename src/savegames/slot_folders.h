@@ -27,8 +27,10 @@ SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::st
 // not be deleted; it goes on with the others.
 std::vector<Failure> ClearSlots(FileSystem& files, const std::string& folder);
 
-// The files that ClearSlots would delete, with their paths.
-std::vector<std::string> FilesOfSlots(FileSystem& files, const std::string& folder);
+// The files that ClearSlots would delete, with their paths. `why`, where given, tells whether the
+// folder could be listed; the answer is not complete when it could not.
+std::vector<std::string> FilesOfSlots(FileSystem& files, const std::string& folder,
+                                      FileError* why = nullptr);
 
 }  // namespace vellumark
 

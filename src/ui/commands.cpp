@@ -5,6 +5,8 @@
 #include "foundation/help.h"
 #include "foundation/windows.h"
 #include "game/import.h"
+#include "game/play.h"
+#include "game/running_game.h"
 #include "program.h"
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
@@ -30,7 +32,7 @@ constexpr Command kCommands[] = {
     {"mnu_Savegames", "mnu_Archivia", nullptr, "Ctrl+I", ImportCommand},
     {"mnu_Savegames", "-", nullptr, "", nullptr},
     {"mnu_Savegames", "mnu_Find", "Pul_Cerca", "Ctrl+F", OpenSearch},
-    {"mnu_Savegames", "mnu_Examine", "Pul_Play", "Ctrl+P", nullptr},
+    {"mnu_Savegames", "mnu_Examine", "Pul_Play", "Ctrl+P", PlaySelectedSavegames},
     {"mnu_Savegames", "mnu_PropSavegame", "Pul_CambiaProp", "F2", ShowSavegameProperties},
     {"mnu_Savegames", "-", nullptr, "", nullptr},
     {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", nullptr},
@@ -45,7 +47,7 @@ constexpr Command kCommands[] = {
 
     {"mnu_Help", "mnu_ShowHelp", nullptr, "F1", ShowHelp},
 
-    {nullptr, nullptr, "Pul_StartTomb", "", nullptr},
+    {nullptr, nullptr, "Pul_StartTomb", "", StartGame},
     {nullptr, nullptr, "Pul_Zoom", "", ShowScreenShot},
     {nullptr, nullptr, "Pul_Precedente", "Shift+F3", ShowPreviousFound},
     {nullptr, nullptr, "Pul_Seguente", "F3", ShowNextFound},

@@ -1,0 +1,212 @@
+#include "game/play.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "archive/scan.h"
+#include "archive/validation.h"
+#include "foundation/failures.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
+#include "foundation/sound_effects.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "game/backup_paths.h"
+#include "game/restore.h"
+#include "game/running_game.h"
+#include "game/slot_backup.h"
+#include "game/slot_clearing.h"
+#include "platform/clipboard.h"
+#include "program.h"
+#include "savegames/copy_selected.h"
+#include "savegames/slot_folders.h"
+
+namespace vellumark {
+namespace {
+
+using Indices = std::vector<std::int16_t>;
+
+SavegameEntry& EntryAt(Program& program, std::int16_t index) {
+  return program.catalogue.entries[static_cast<std::size_t>(index)];
+}
+
+bool Refuse(Program& program, const std::string& text) {
+  Tell(program, text, BoxIcon::kCritical);
+  return false;
+}
+
+// A selected savegame whose file is, by whatever path, in the game folder or the backup folder:
+// clearing the slots or backing them up would cost it.
+const SavegameEntry* FindInPlayedFolder(Program& program, const Indices& indices,
+                                        const std::string& game_folder) {
+  FileSystem& files = program.files;
+  const auto game = files.Identity(game_folder);
+  const auto backup = files.Identity(program.play.BackupFolder);
+  std::vector<FileIdentity> slots;
+  for (const std::string& path : FilesOfSlots(files, game_folder)) {
+    if (const auto slot = files.Identity(path)) slots.push_back(*slot);
+  }
+  for (const std::int16_t index : indices) {
+    const SavegameEntry& entry = EntryAt(program, index);
+    const auto folder = files.Identity(FolderOf(entry.SavegamePath));
+    if (folder && (folder == game || folder == backup)) return &entry;
+    for (const std::string* path : {&entry.SavegamePath, &entry.NotePath, &entry.ShotPath}) {
+      const auto file = files.Identity(*path);
+      if (file && std::ranges::find(slots, *file) != slots.end()) return &entry;
+    }
+  }
+  return nullptr;
+}
+
+bool MayPlay(Program& program, const Indices& indices) {
+  const bool any_in_game_folder = std::ranges::any_of(
+      indices, [&](std::int16_t index) { return EntryAt(program, index).FolderNumber == 0; });
+  if (any_in_game_folder) return Refuse(program, LoadMessage(263, {kLineBreak}));
+  if (indices.empty()) {
+    PlaySoundEffect(program, SoundEffect::kOpening);
+    return Refuse(program, LoadMessage(264, {kLineBreak}));
+  }
+  if (!ValidateArchiveSettings(program)) return false;
+  const std::int16_t most = program.archive.settings.MaxSavegame;
+  if (indices.size() > static_cast<std::size_t>(std::max<std::int16_t>(most, 0))) {
+    return Refuse(program, LoadMessage(265, {static_cast<int>(most)}));
+  }
+
+  const std::string game_folder = Trimmed(program.archive.settings.GameFolder);
+  const auto identity = program.files.Identity(game_folder);
+  if (identity && identity == program.files.Identity(program.play.BackupFolder)) {
+    return Refuse(program, LoadMessage(kGameFolderIsBackup, {Quoted(game_folder)}));
+  }
+  if (const SavegameEntry* entry = FindInPlayedFolder(program, indices, game_folder)) {
+    return Refuse(program, LoadMessage(kPlaySourceInGameFolder,
+                                       {Quoted(entry->SavegamePath), Quoted(game_folder)}));
+  }
+  return true;
+}
+
+// What a play has to tell, in one message before the game comes up.
+class PlayReport {
+ public:
+  void Add(const std::string& paragraph) {
+    if (!text_.empty()) text_ += std::string(kLineBreak) + kLineBreak;
+    text_ += paragraph;
+  }
+
+  void Show(Program& program) {
+    if (!text_.empty()) Tell(program, text_, BoxIcon::kExclamation);
+  }
+
+ private:
+  std::string text_;
+};
+
+// Puts the player's own slots aside. False when that failed: the slots are as they were.
+bool PutOwnSlotsAside(Program& program, const std::string& game_folder, bool another_folder,
+                      PlayReport& report) {
+  const std::string former_home = program.play.backup_of;
+  const SlotBackup backup = BackUpSlots(program, game_folder);
+  const std::string& folder = program.play.BackupFolder;
+  if (!backup.former.empty()) {
+    report.Add(
+        another_folder
+            ? LoadMessage(kOtherBackupSetAside, {Quoted(former_home), Quoted(backup.former)})
+            : LoadMessage(kSlotsSetAside, {Quoted(folder), kLineBreak, Quoted(backup.former)}));
+  }
+  if (!backup.failures.empty()) {
+    report.Add(LoadMessage(kPlayNotBackedUp, {Quoted(game_folder)}) +
+               DescribeFailures(backup.failures));
+    return false;
+  }
+  program.play.placed.clear();
+  return true;
+}
+
+// The list goes on showing the player's own slots, which are in the backup now.
+void ListBackup(Program& program, const std::string& game_folder) {
+  for (SavegameEntry& entry : program.catalogue.entries) {
+    if (entry.FolderNumber != 0) continue;
+    PointIntoFolder(program.text, entry, game_folder, program.play.BackupFolder,
+                    Occurrences::kFirst);
+  }
+}
+
+// Remembers what is in the slots now, and from where.
+void RememberPlaced(Program& program, const Indices& indices,
+                    const std::vector<std::string>& placed) {
+  PlayState& play = program.play;
+  play.ExaminedList = indices;
+  play.examined_paths.clear();
+  for (const std::int16_t index : indices) {
+    play.examined_paths.push_back(EntryAt(program, index).SavegamePath);
+  }
+  play.placed.clear();
+  for (const std::string& path : placed) {
+    ReadResult read = program.files.Read(path, FileSystem::kWholeFile);
+    if (read.error == FileError::kNone) {
+      play.placed.push_back({FileNameOf(path), std::move(read.bytes)});
+    }
+  }
+}
+
+// Replaces what is in the slots by the selected savegames. False when some of it failed.
+bool FillSlots(Program& program, const Indices& indices, const std::string& game_folder,
+               PlayReport& report) {
+  const SlotClearing clearing = ClearGameSlots(program, game_folder);
+  if (!clearing.set_aside.empty()) {
+    report.Add(LoadMessage(kGameSlotsSetAside, {Quoted(game_folder), Quoted(clearing.set_aside)}));
+  }
+  if (!clearing.failures.empty()) {
+    report.Add(LoadMessage(kSlotsNotCleared, {Quoted(game_folder)}) +
+               DescribeFailures(clearing.failures));
+    if (clearing.deleted || !clearing.set_aside.empty()) program.play.ExaminedInGameFolder = true;
+    return false;
+  }
+
+  program.play.ExaminedInGameFolder = true;
+  const SelectedCopies copies =
+      CopySelectedSavegames(program, indices, game_folder, true, CopyMode::kCopy);
+  RememberPlaced(program, indices, copies.targets);
+  if (copies.not_copied.empty()) return true;
+  report.Add(LoadMessage(kPlayNotCopied, {Quoted(game_folder)}) +
+             DescribeFailures(copies.not_copied));
+  return false;
+}
+
+}  // namespace
+
+void PlaySelectedSavegames(Program& program) {
+  const Indices indices = program.selection.indices;
+  if (!MayPlay(program, indices)) return;
+
+  const std::string game_folder = Trimmed(program.archive.settings.GameFolder);
+  PlayState& play = program.play;
+  const bool first = !play.ExaminedInGameFolder;
+  const bool another_folder = !first && !IsBackupOf(program, game_folder);
+  PlayReport report;
+  bool safe = true;
+  bool filled = false;
+  {
+    const WorkScope working(program);
+    if (first || another_folder) {
+      safe = PutOwnSlotsAside(program, game_folder, another_folder, report);
+    }
+    if (safe) filled = FillSlots(program, indices, game_folder, report);
+    if (first && play.ExaminedInGameFolder) ListBackup(program, game_folder);
+  }
+  report.Show(program);
+  // The list shows the backup's slots as the game folder's: those of another folder by now.
+  if (another_folder) ScanArchive(program);
+  if (!filled) {
+    if (safe) RestoreOriginalSavegames(program);
+    return;
+  }
+
+  program.clipboard.Empty();
+  program.capture.CaptureArmed = true;
+  BringUpGame(program);
+}
+
+}  // namespace vellumark
