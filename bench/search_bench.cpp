@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
-#include <memory>
 #include <random>
 #include <string>
 #include <string_view>
@@ -18,10 +17,8 @@
 
 #include "bench_run.h"
 #include "measured.h"
-#include "platform/system_services.h"
-#include "program.h"
 #include "savegames/search.h"
-#include "support/scripted_desktop.h"
+#include "scripted_program.h"
 
 namespace {
 
@@ -64,7 +61,7 @@ class SearchedProgram {
     static constexpr std::array<const char*, 6> kLevels = {
         "Angkor Wat",      "Race For The Iris",   "The Tomb Of Seth",
         "Burial Chambers", "Valley Of The Kings", "The Mastabas"};
-    const std::string archive = CorePath(*files_, folder) + '\\' + kSubfolderBaseName;
+    const std::string archive = CorePath(*scripted_.files, folder) + '\\' + kSubfolderBaseName;
     for (const std::string& note : notes) {
       const int index = static_cast<int>(program_.catalogue.entries.size());
       const std::string number = std::to_string(index % kSlotsInFolder);
@@ -83,9 +80,9 @@ class SearchedProgram {
   }
 
   double Search(const std::string& searched, int found) {
-    const SearchRequest request = {.text = text_->FromUtf8(searched)};
-    boxes_.shown.clear();
-    windows_.events.clear();
+    const SearchRequest request = {.text = scripted_.text->FromUtf8(searched)};
+    scripted_.boxes.shown.clear();
+    scripted_.windows.events.clear();
     const double begin = Now();
     RunSearch(program_, request);
     const double end = Now();
@@ -94,25 +91,8 @@ class SearchedProgram {
   }
 
  private:
-  std::unique_ptr<Text> text_ = MakeSystemText();
-  std::unique_ptr<FileSystem> files_ = MakeSystemFileSystem(*text_);
-  vellumark::testing::ScriptedMessageBoxes boxes_;
-  vellumark::testing::ScriptedFileDialogs dialogs_;
-  vellumark::testing::RecordedSounds sounds_;
-  vellumark::testing::RecordedShell shell_;
-  vellumark::testing::ScriptedDesktopWindows desktop_;
-  vellumark::testing::ScriptedClipboard clipboard_;
-  vellumark::testing::ScriptedWindows windows_;
-  Program program_{.files = *files_,
-                   .text = *text_,
-                   .boxes = boxes_,
-                   .file_dialogs = dialogs_,
-                   .sounds = sounds_,
-                   .shell = shell_,
-                   .desktop = desktop_,
-                   .clipboard = clipboard_,
-                   .windows = windows_,
-                   .main_window = windows_};
+  ScriptedProgram scripted_;
+  Program& program_ = scripted_.program;
 };
 
 // Starts grep with its output going to `output`. The number of the process.

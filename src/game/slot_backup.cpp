@@ -69,18 +69,14 @@ SlotBackup BackUpSlots(Program& program, const std::string& game_folder) {
   std::vector<std::string> written;
   for (const std::string& path : slots) {
     const std::string copy = InFolder(play.BackupFolder, FileNameOf(path));
-    // A copy that is there already is that of a name which stands twice in different letter case.
-    if (program.files.Attributes(copy).error == FileError::kNone) {
-      result.failures.push_back({path, FileError::kAmbiguous});
-    } else if (CopyFileReplacing(program.files, path, copy, &error)) {
+    error = CopyToFreeName(program.files, path, copy);
+    if (error == FileError::kNone) {
       written.push_back(copy);
     } else {
-      result.failures.push_back({path, error});
+      // A name that is taken stands in the game folder twice, in different letter case.
+      const bool twice = error == FileError::kAlreadyExists;
+      result.failures.push_back({path, twice ? FileError::kAmbiguous : error});
     }
-  }
-  if (!written.empty() && result.failures.empty()) {
-    error = program.files.Flush(written);
-    if (error != FileError::kNone) result.failures.push_back({play.BackupFolder, error});
   }
   if (!result.failures.empty()) TakeBack(program, game_folder, written);
   play.backup_of = game_folder;

@@ -17,7 +17,7 @@ struct SlotBackup {
 };
 
 // Copies every file that clearing the folder's slots would delete into BackupFolder, reads it back
-// and flushes it, and remembers the folder. What lies in BackupFolder before is moved away first,
+// and remembers the folder. What lies in BackupFolder before is moved away first,
 // unless it is known to be in its own folder again.
 SlotBackup BackUpSlots(Program& program, const std::string& game_folder);
 

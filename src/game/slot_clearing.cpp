@@ -1,6 +1,7 @@
 #include "game/slot_clearing.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "foundation/file_utilities.h"
@@ -13,17 +14,56 @@
 namespace vellumark {
 namespace {
 
-bool IsKeptElsewhere(Program& program, const std::string& path, bool is_backed_up) {
+void DeleteAll(Program& program, const std::vector<std::string>& paths, SlotClearing& clearing) {
+  for (const std::string& path : paths) {
+    FileError error = FileError::kNone;
+    if (DeleteFileForced(program.files, path, &error)) {
+      clearing.deleted = true;
+    } else {
+      clearing.failures.push_back({path, error});
+    }
+  }
+}
+
+enum class Kept { kNowhere, kInArchive, kInBackup };
+
+std::string BackupCopyOf(const Program& program, const std::string& path) {
+  return InFolder(program.play.BackupFolder, FileNameOf(path));
+}
+
+// Where else there is what a file of the game folder holds.
+Kept WhereKept(Program& program, const std::string& path, bool is_backed_up) {
   const PlayState& play = program.play;
   const ReadResult file = program.files.Read(path, FileSystem::kWholeFile);
-  if (file.error != FileError::kNone) return false;
-  const bool placed =
-      std::ranges::find(play.placed, file.bytes, &PlacedFile::bytes) != play.placed.end();
-  if (placed || !is_backed_up) return placed;
+  if (file.error != FileError::kNone) return Kept::kNowhere;
+  if (is_backed_up) {
+    const ReadResult backup =
+        program.files.Read(BackupCopyOf(program, path), FileSystem::kWholeFile);
+    if (backup.error == FileError::kNone && backup.bytes == file.bytes) return Kept::kInBackup;
+  }
+  const auto placed = std::ranges::find(play.placed, file.bytes, &PlacedFile::bytes);
+  return placed == play.placed.end() ? Kept::kNowhere : Kept::kInArchive;
+}
 
-  const std::string copy = InFolder(play.BackupFolder, FileNameOf(path));
-  const ReadResult backup = program.files.Read(copy, FileSystem::kWholeFile);
-  return backup.error == FileError::kNone && backup.bytes == file.bytes;
+// Takes files away whose equals are in the backup. Moving each over its equal costs the disk less
+// than freeing it, and needs no flush: the file itself is on the disk already. What cannot be
+// moved, to another drive above all, is deleted once the copies are flushed.
+void GiveToBackup(Program& program, const std::vector<std::string>& paths, SlotClearing& clearing) {
+  std::vector<std::string> left;
+  std::vector<std::string> copies;
+  for (const std::string& path : paths) {
+    std::string copy = BackupCopyOf(program, path);
+    if (program.files.Rename(path, copy, RenameMode::kReplaceFile) == FileError::kNone) {
+      clearing.deleted = true;
+    } else {
+      left.push_back(path);
+      copies.push_back(std::move(copy));
+    }
+  }
+  if (left.empty()) return;
+  const FileError flush = program.files.Flush(copies);
+  if (flush == FileError::kNone) return DeleteAll(program, left, clearing);
+  for (const std::string& path : left) clearing.failures.push_back({path, flush});
 }
 
 }  // namespace
@@ -31,29 +71,24 @@ bool IsKeptElsewhere(Program& program, const std::string& path, bool is_backed_u
 SlotClearing ClearGameSlots(Program& program, const std::string& game_folder) {
   SlotClearing clearing;
   FileError error = FileError::kNone;
-  std::vector<std::string> kept = FilesOfSlots(program.files, game_folder, &error);
+  const auto slots = FilesOfSlots(program.files, game_folder, &error);
   if (error != FileError::kNone) {
     clearing.failures.push_back({game_folder, error});
     return clearing;
   }
   const bool is_backed_up = IsBackupOf(program, game_folder);
-  const auto unsaved = std::stable_partition(
-      kept.begin(), kept.end(),
-      [&](const std::string& path) { return IsKeptElsewhere(program, path, is_backed_up); });
+  std::map<Kept, std::vector<std::string>> paths;
+  for (const std::string& path : slots) {
+    paths[WhereKept(program, path, is_backed_up)].push_back(path);
+  }
 
-  Rescue rescue = SetAside(program, {unsaved, kept.end()});
+  Rescue rescue = SetAside(program, paths[Kept::kNowhere]);
   clearing.set_aside = rescue.folder;
   clearing.failures = std::move(rescue.failures);
   if (!clearing.failures.empty()) return clearing;
 
-  kept.erase(unsaved, kept.end());
-  for (const std::string& path : kept) {
-    if (DeleteFileForced(program.files, path, &error)) {
-      clearing.deleted = true;
-    } else {
-      clearing.failures.push_back({path, error});
-    }
-  }
+  DeleteAll(program, paths[Kept::kInArchive], clearing);
+  GiveToBackup(program, paths[Kept::kInBackup], clearing);
   return clearing;
 }
 

@@ -25,6 +25,8 @@ TestWorld::TestWorld() : real_files(text, {{{'T', disk.path().string()}}}), file
   disk.Write("Game/tomb4.exe", "game");
 }
 
+TestWorld::~TestWorld() { std::filesystem::current_path(working_folder_); }
+
 Program TestWorld::NewProgram() {
   Program program{.files = files,
                   .text = text,

@@ -4,6 +4,7 @@
 #define VELLUMARK_TESTS_SUPPORT_TEST_WORLD_H_
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 
 #include "platform/posix/code_page_text.h"
@@ -22,6 +23,10 @@ std::string SavegameBytes(const std::string& level, std::int16_t counter, int se
 class TestWorld {
  public:
   TestWorld();
+  // The process is back in the folder it was in: operations may have changed that.
+  ~TestWorld();
+  TestWorld(const TestWorld&) = delete;
+  TestWorld& operator=(const TestWorld&) = delete;
 
   // A new run of the program on the same disk.
   Program NewProgram();
@@ -44,6 +49,9 @@ class TestWorld {
   ScriptedDesktopWindows desktop;
   ScriptedClipboard clipboard;
   ScriptedWindows windows;
+
+ private:
+  std::filesystem::path working_folder_ = std::filesystem::current_path();
 };
 
 }  // namespace vellumark::testing
