@@ -1,0 +1,45 @@
+#include "platform/x11/x11_keyboard.h"
+
+#include <xcb/xtest.h>
+
+#include "platform/x11/x11_connection.h"
+
+namespace vellumark {
+namespace {
+
+constexpr xcb_keysym_t kReturn = 0xFF0D;
+
+// The key that gives Enter without a modifier; 0 when there is none.
+xcb_keycode_t EnterKey(xcb_connection_t* xcb) {
+  const xcb_setup_t* setup = xcb_get_setup(xcb);
+  const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+  const Reply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
+      xcb, xcb_get_keyboard_mapping(xcb, setup->min_keycode, count), nullptr));
+  if (!mapping || mapping->keysyms_per_keycode == 0) return 0;
+
+  const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
+  for (int key = 0; key < count; ++key) {
+    if (symbols[key * mapping->keysyms_per_keycode] != kReturn) continue;
+    return static_cast<xcb_keycode_t>(setup->min_keycode + key);
+  }
+  return 0;
+}
+
+}  // namespace
+
+void PressEnterKey(X11Connection& x) {
+  xcb_connection_t* xcb = x.Xcb();
+  // Asking an extension that is not there would break the connection.
+  const xcb_query_extension_reply_t* extension = xcb_get_extension_data(xcb, &xcb_test_id);
+  if (extension == nullptr || extension->present == 0) return;
+
+  const xcb_keycode_t key = EnterKey(xcb);
+  if (key == 0) return;
+  for (const int event : {XCB_KEY_PRESS, XCB_KEY_RELEASE}) {
+    xcb_test_fake_input(xcb, static_cast<std::uint8_t>(event), key, XCB_CURRENT_TIME,
+                        XCB_WINDOW_NONE, 0, 0, 0);
+  }
+  xcb_flush(xcb);
+}
+
+}  // namespace vellumark

@@ -1,0 +1,15 @@
+// Sending keys through an X server.
+#ifndef VELLUMARK_PLATFORM_X11_X11_KEYBOARD_H_
+#define VELLUMARK_PLATFORM_X11_X11_KEYBOARD_H_
+
+namespace vellumark {
+
+class X11Connection;
+
+// Presses the Enter key and lets it go, as if on the keyboard; the window with the input focus gets
+// it. Nothing happens where the server takes no keys from programs or the keyboard has no Enter.
+void PressEnterKey(X11Connection& x);
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_X11_X11_KEYBOARD_H_

@@ -1,0 +1,10 @@
+// Runs the tests on the display at hand.
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  const QGuiApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}

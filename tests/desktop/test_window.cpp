@@ -1,0 +1,129 @@
+#include "desktop/test_window.h"
+
+#include <array>
+#include <chrono>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+#include <thread>
+
+#include "platform/x11/x11_desktop_windows.h"
+
+namespace vellumark::testing {
+namespace {
+
+constexpr std::uint32_t kIconicState = 3;
+
+xcb_atom_t Atom(xcb_connection_t* connection, std::string_view name) {
+  const auto cookie =
+      xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+  xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection, cookie, nullptr);
+  const xcb_atom_t atom = reply == nullptr ? 0 : reply->atom;
+  std::free(reply);
+  return atom;
+}
+
+}  // namespace
+
+bool Becomes(const std::function<bool()>& holds) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (!holds()) {
+    if (std::chrono::steady_clock::now() > deadline) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  return true;
+}
+
+TestWindow::TestWindow(const WindowTraits& traits, WindowHandle parent) {
+  int screen = 0;
+  connection_ = xcb_connect(nullptr, &screen);
+  xcb_ewmh_init_atoms_replies(&ewmh_, xcb_ewmh_init_atoms(connection_, &ewmh_), nullptr);
+  root_ = ewmh_.screens[screen]->root;
+  window_ = xcb_generate_id(connection_);
+
+  const std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE;
+  xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window_, parent == 0 ? root_ : parent, 10,
+                    10, 200, 100, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                    XCB_CW_EVENT_MASK, &events);
+  State(traits);
+  xcb_map_window(connection_, window_);
+  xcb_flush(connection_);
+  Becomes([this] { return IsVisible(); });
+}
+
+TestWindow::~TestWindow() {
+  xcb_ewmh_connection_wipe(&ewmh_);
+  xcb_disconnect(connection_);
+}
+
+void TestWindow::State(const WindowTraits& traits) {
+  if (!traits.utf8_title.empty()) {
+    xcb_ewmh_set_wm_name(&ewmh_, window_, static_cast<std::uint32_t>(traits.utf8_title.size()),
+                         traits.utf8_title.data());
+  }
+  if (!traits.latin1_title.empty()) {
+    xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NAME,
+                        XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(traits.latin1_title.size()),
+                        traits.latin1_title.data());
+  }
+  if (traits.process != 0) xcb_ewmh_set_wm_pid(&ewmh_, window_, traits.process);
+
+  // WM_HINTS: only its word on the input focus counts.
+  const std::array<std::uint32_t, 9> hints = {1, traits.takes_focus ? 1U : 0U};
+  xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_HINTS,
+                      XCB_ATOM_WM_HINTS, 32, hints.size(), hints.data());
+}
+
+void TestWindow::SendToRoot(xcb_atom_t message, std::uint32_t value) {
+  xcb_client_message_event_t event = {};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = 32;
+  event.window = window_;
+  event.type = message;
+  event.data.data32[0] = value;
+  xcb_send_event(connection_, 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&event));
+  xcb_flush(connection_);
+}
+
+void TestWindow::TakeFocusFor(WindowHandle active) {
+  X11DesktopWindows desktop;
+  Becomes([&] {
+    SendToRoot(ewmh_._NET_ACTIVE_WINDOW, XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+    xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
+    xcb_flush(connection_);
+    return desktop.ActiveWindow() == active;
+  });
+}
+
+void TestWindow::Minimize() {
+  SendToRoot(Atom(connection_, "WM_CHANGE_STATE"), kIconicState);
+  Becomes([this] { return !IsVisible(); });
+}
+
+bool TestWindow::IsVisible() {
+  const auto cookie = xcb_get_window_attributes(connection_, window_);
+  auto* reply = xcb_get_window_attributes_reply(connection_, cookie, nullptr);
+  const bool visible = reply != nullptr && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+  std::free(reply);
+  return visible;
+}
+
+std::string TestWindow::EnterKeys() {
+  xcb_keycode_t enter = 36;
+  while (xcb_generic_event_t* event = xcb_poll_for_event(connection_)) {
+    const int type = event->response_type & 0x7F;
+    const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
+    const bool is_key = type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE;
+    if (is_key && (key->detail != enter || key->state != 0)) {
+      keys_ += "other ";
+    } else if (is_key) {
+      keys_ += type == XCB_KEY_PRESS ? "down " : "up ";
+    }
+    std::free(event);
+  }
+  return keys_;
+}
+
+}  // namespace vellumark::testing

@@ -1,0 +1,60 @@
+// Windows on the display, made beside Qt's own.
+#ifndef VELLUMARK_TESTS_DESKTOP_TEST_WINDOW_H_
+#define VELLUMARK_TESTS_DESKTOP_TEST_WINDOW_H_
+
+#include <xcb/xcb.h>
+#include <xcb/xcb_ewmh.h>
+
+#include <functional>
+#include <string>
+
+#include "platform/desktop_windows.h"
+
+namespace vellumark::testing {
+
+// True as soon as it holds; false when it does not within ten seconds.
+bool Becomes(const std::function<bool()>& holds);
+
+struct WindowTraits {
+  std::string utf8_title{};    // as programs of today state it
+  std::string latin1_title{};  // as old ones do
+  ProcessId process = 0;       // not stated when 0
+  bool takes_focus = true;
+};
+
+// A shown window on a connection of its own.
+class TestWindow {
+ public:
+  explicit TestWindow(const WindowTraits& traits, WindowHandle parent = 0);
+  ~TestWindow();
+  TestWindow(const TestWindow&) = delete;
+  TestWindow& operator=(const TestWindow&) = delete;
+
+  WindowHandle Handle() const { return window_; }
+
+  // Gives it the input focus, by the window manager where one runs, and waits until it is active.
+  void TakeFocus() { TakeFocusFor(window_); }
+  // The same for a part of another window, until that one is active.
+  void TakeFocusFor(WindowHandle active);
+  // Asks the window manager to minimize it and waits until it is not to be seen.
+  void Minimize();
+  bool IsVisible();
+
+  // The Enter keys that have come so far: `down` and `up` for each press and release without a
+  // modifier, `other` for any other key event.
+  std::string EnterKeys();
+
+ private:
+  void State(const WindowTraits& traits);
+  void SendToRoot(xcb_atom_t message, std::uint32_t value);
+
+  xcb_ewmh_connection_t ewmh_ = {};
+  xcb_connection_t* connection_ = nullptr;
+  xcb_window_t root_ = 0;
+  xcb_window_t window_ = 0;
+  std::string keys_;
+};
+
+}  // namespace vellumark::testing
+
+#endif  // VELLUMARK_TESTS_DESKTOP_TEST_WINDOW_H_
