@@ -4,19 +4,41 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QPainter>
 
 namespace vellumark {
 namespace {
 
-// Of 100. Fine detail of a game's picture survives, at a fifth of a PNG's size.
-constexpr int kJpegQuality = 92;
+QImage OnBlack(const QImage& image) {
+  QImage opaque(image.size(), QImage::Format_RGB32);
+  opaque.fill(Qt::black);
+  QPainter(&opaque).drawImage(opaque.rect(), image);
+  return opaque;
+}
+
+// Asks the clipboard's owner for a picture only when it has said that it offers one.
+QImage ReadImage(const QMimeData& content) {
+  if (content.hasImage()) {
+    auto image = qvariant_cast<QImage>(content.imageData());
+    if (!image.isNull()) return image;
+  }
+  // Names of picture formats that Qt does not know by name may stand for ones that it can read.
+  const QStringList formats = content.formats();
+  for (const QString& format : formats) {
+    if (!format.startsWith(QLatin1String("image/"))) continue;
+    const QImage image = QImage::fromData(content.data(format));
+    if (!image.isNull()) return image;
+  }
+  return {};
+}
 
 }  // namespace
 
 std::optional<std::string> QtPicture::ToJpeg() const {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  if (!buffer.open(QIODevice::WriteOnly) || !image_.save(&buffer, "JPG", kJpegQuality)) {
+  const QImage opaque = image_.hasAlphaChannel() ? OnBlack(image_) : image_;
+  if (!buffer.open(QIODevice::WriteOnly) || !opaque.save(&buffer, "JPG", kJpegQuality)) {
     return std::nullopt;
   }
   return bytes.toStdString();
@@ -24,8 +46,8 @@ std::optional<std::string> QtPicture::ToJpeg() const {
 
 ClipboardRead QtClipboard::ReadPicture() {
   const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-  if (content == nullptr || !content->hasImage()) return {};
-  QImage image = qvariant_cast<QImage>(content->imageData());
+  if (content == nullptr) return {};
+  QImage image = ReadImage(*content);
   if (image.isNull()) return {};
   return {ClipboardAnswer::kPicture, std::make_shared<QtPicture>(std::move(image))};
 }
