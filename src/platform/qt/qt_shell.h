@@ -1,6 +1,8 @@
-// Opening documents by the desktop.
+// Opening documents by the desktop, Windows programs by Wine.
 #ifndef VELLUMARK_PLATFORM_QT_QT_SHELL_H_
 #define VELLUMARK_PLATFORM_QT_QT_SHELL_H_
+
+#include <QString>
 
 #include "platform/shell.h"
 
@@ -8,9 +10,17 @@ namespace vellumark {
 
 class QtShell final : public Shell {
  public:
+  // `wine_folder` is searched for Wine after PATH; the default is Debian's own place for it.
+  explicit QtShell(QString wine_folder = QStringLiteral("/usr/lib/wine"))
+      : wine_folder_(std::move(wine_folder)) {}
+
+  // Nothing here can keep a started program from showing a window: `hidden` changes nothing.
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
   std::string MissingFor(const std::string& document) override;
+
+ private:
+  QString wine_folder_;
 };
 
 }  // namespace vellumark
