@@ -3,9 +3,11 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QTimer>
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <thread>
+#include <vector>
 
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
@@ -45,6 +47,20 @@ std::string ArgumentText(const Text& text, MessageBoxes& boxes) {
   return {};
 }
 
+// The arguments, with a choice of platform for Qt in front. Where both X and Wayland are at hand, X
+// comes first unless the user has chosen: only there can the clipboard be read while another
+// program has the focus.
+std::vector<char*> WithPlatform(int argc, char* argv[]) {
+  static char option[] = "-platform";
+  static char platforms[] = "xcb;wayland";
+  std::vector<char*> arguments(argv, argv + argc);
+  if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    arguments.insert(arguments.begin() + std::min(argc, 1), {option, platforms});
+  }
+  arguments.push_back(nullptr);
+  return arguments;
+}
+
 void SetIcon(FileSystem& files, const std::string& program_folder) {
   const ReadResult read =
       files.Read(InFolder(program_folder, "vellumark.png"), FileSystem::kWholeFile);
@@ -58,7 +74,9 @@ void SetIcon(FileSystem& files, const std::string& program_folder) {
 
 int main(int argc, char* argv[]) {
   const std::jthread reading_ahead(ReadAheadForFirstWindow);
-  QApplication application(argc, argv);
+  std::vector<char*> arguments = WithPlatform(argc, argv);
+  argc = static_cast<int>(arguments.size()) - 1;
+  QApplication application(argc, arguments.data());
   QApplication::setApplicationName(QStringLiteral("Vellumark"));
   QApplication::setDesktopFileName(QStringLiteral("vellumark"));
   QApplication::setQuitOnLastWindowClosed(false);
