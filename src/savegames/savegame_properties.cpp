@@ -21,6 +21,7 @@
 #include "savegames/main_window.h"
 #include "savegames/notes.h"
 #include "savegames/savegame_header.h"
+#include "savegames/shot_folder.h"
 
 namespace vellumark {
 namespace {
@@ -32,14 +33,6 @@ SavegameEntry& EntryAt(Program& program, int index) {
 // A minus sign takes the place of the blank.
 std::string WithSignPlace(int number) {
   return number < 0 ? std::to_string(number) : WithLeadingBlank(number);
-}
-
-// The folder of the preferences; they may also hold the path of a picture saved there.
-std::string StartFolder(Program& program) {
-  std::string folder = Trimmed(program.preferences.ShotFolder);
-  if (FolderExists(program.files, folder)) return folder;
-  std::string parent = FolderOf(folder);
-  return FolderExists(program.files, parent) ? parent : folder;
 }
 
 // Asks about a file that is no picture. One that cannot be read fails when it is copied.
@@ -142,7 +135,7 @@ bool ChooseScreenShot(Program& program, int index, PictureTest is_picture) {
   const std::string shot = EntryAt(program, index).ShotPath;
   const auto chosen = program.file_dialogs.Open({.title = LoadMessage(163),
                                                  .filter = LoadMessage(164),
-                                                 .start_folder = StartFolder(program)});
+                                                 .start_folder = ShotStartFolder(program)});
   if (!chosen || !MayBecomeScreenShot(program, *chosen, is_picture)) return false;
   if (CopyToScreenShot(program, *chosen, shot)) return true;
   Tell(program, LoadMessage(165, {*chosen}) + shot, BoxIcon::kCritical);
