@@ -19,6 +19,17 @@ constexpr std::string_view kLineBreakByte(&kStoredLineBreak, 1);
 // What the byte is in a code page that has no letter for it.
 constexpr std::string_view kLineBreakAsControl = "\xC2\x8D";
 
+// The control character says that the byte itself is meant, whatever the code page; carriage return
+// is how a text in the code page says so.
+std::string WithReturnForControl(std::string_view utf8) {
+  std::string text(utf8);
+  for (auto at = text.find(kLineBreakAsControl); at != std::string::npos;
+       at = text.find(kLineBreakAsControl, at)) {
+    text.replace(at, kLineBreakAsControl.size(), 1, '\r');
+  }
+  return text;
+}
+
 // One character of valid UTF-8 by its number, as in U+0416.
 std::string NumberOf(std::string_view character) {
   const auto lead = static_cast<unsigned char>(character.front());
@@ -40,14 +51,14 @@ std::string Described(const Text& text, const std::string& character) {
 }  // namespace
 
 TypedNote NoteFromTextBox(const Text& text, std::string_view utf8) {
-  const EncodedText encoded = text.FromUtf8(utf8);
+  const EncodedText encoded = text.FromUtf8(WithReturnForControl(utf8));
   TypedNote note{.lacking = encoded.missing};
   const std::string letter = text.ToUtf8(kLineBreakByte);
   if (letter != kLineBreakAsControl && utf8.find(letter) != std::string_view::npos) {
     note.lacking.push_back(letter);
   }
 
-  for (const char byte : encoded.bytes) {
+  for (const char byte : NoteToStore(encoded.bytes)) {
     if (byte == '\n' && !note.stored.ends_with(kStoredLineBreak)) note.stored += kStoredLineBreak;
     note.stored += byte;
   }

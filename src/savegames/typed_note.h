@@ -19,7 +19,8 @@ struct TypedNote {
   std::vector<std::string> lacking{};
 };
 
-// The note that a text box holds: UTF-8, its lines separated by line feeds.
+// The note that a text box holds: UTF-8, its lines separated by line feeds. U+008D in it is the
+// byte that breaks lines, also in code pages that have a letter for that byte.
 TypedNote NoteFromTextBox(const Text& text, std::string_view utf8);
 
 // Tells the user which characters a note cannot hold; false when there are any.

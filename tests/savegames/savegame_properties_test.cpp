@@ -195,6 +195,8 @@ TEST(NoteFromTextBoxTest, KeepsWhatANoteCanHoldAndNamesWhatItCannot) {
   const CodePageText cyrillic(1251, "ru", false);
   EXPECT_EQ(NoteFromTextBox(cyrillic, "\u041A\u040C\n\u4E00").lacking,
             (std::vector<std::string>{"\u4E00", "\u040C"}));
+  EXPECT_EQ(NoteFromTextBox(cyrillic, "\u041A\u008D\n").stored, "\xCA\x8D\n");
+  EXPECT_TRUE(NoteFromTextBox(cyrillic, "\u041A\u008D\n").lacking.empty());
 }
 
 }  // namespace
