@@ -106,6 +106,17 @@ constexpr TableMessage kOwnMessages[] = {
      "The game ~1 cannot be started: it needs ~2, which is not installed on this computer.\r\n"
      "The savegames are in its slots; start it yourself."},
 
+    {kSlotEmpty,
+     "This slot is empty: there is no savegame to link the screen-shot to. Nothing has been "
+     "written."},
+    {kSlotsChanged,
+     "The savegames in the slots have changed. The list shows them as they are now: please set the "
+     "slot again.\r\nNothing has been written."},
+    {kShotFolderKept,
+     "The folder for screen-shots in the preferences stays as it was. The screen-shot itself is "
+     "saved all the same, if it can be."},
+    {kNameCapturedPicture, "The captured screen-shot"},
+
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
     {kNoteCharacters,
      "A note cannot hold these characters: ~1\r\nThe first of them is marked. Nothing has been "

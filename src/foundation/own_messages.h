@@ -53,6 +53,12 @@ enum OwnMessage : int {
   kGameNotStarted,          // ~1 executable
   kGameNeeds,               // ~1 executable, ~2 program
 
+  // Capture
+  kSlotEmpty,            // no values
+  kSlotsChanged,         // no values
+  kShotFolderKept,       // no values
+  kNameCapturedPicture,  // for assistive technology
+
   // Savegame properties
   kCounterOutOfRange,  // no values
   kNoteCharacters,     // ~1 characters

@@ -7,9 +7,12 @@ namespace vellumark {
 struct Program;
 
 // A tick of the main window's timer, every 500 ms. Looks at the clipboard only while capture is
-// armed and wanted and no operation is at work. Starting the game is what arms capture; as long as
-// no command does, a tick has nothing to do.
+// armed and wanted and no operation is at work. A picture disarms the capture and opens the capture
+// dialog; without a usable game folder it is refused, and the capture stays armed.
 void OnTimer(Program& program);
+
+// The capture dialog has closed, whichever way: empties the clipboard and arms the capture again.
+void EndCapture(Program& program);
 
 }  // namespace vellumark
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/clipboard.h"
 
@@ -20,6 +21,8 @@ struct CaptureState {
   std::int16_t SelectedSlot = -1;            // the line that is chosen; -1 for none
   std::string SelectedLevelName{};
   std::int16_t SelectedCounter = 0;
+  std::string game_folder{};              // whose slots the lines show
+  std::vector<std::string> slot_lines{};  // as the dialog shows them; line k is slot k
 };
 
 }  // namespace vellumark
