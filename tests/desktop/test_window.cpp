@@ -49,6 +49,8 @@ TestWindow::TestWindow(const WindowTraits& traits, WindowHandle parent) {
   xcb_map_window(connection_, window_);
   xcb_flush(connection_);
   Becomes([this] { return IsVisible(); });
+  // The window manager gives the focus to a new window at a moment of its own.
+  if (traits.takes_focus && parent == 0) TakeFocus();
 }
 
 TestWindow::~TestWindow() {
@@ -88,13 +90,21 @@ void TestWindow::SendToRoot(xcb_atom_t message, std::uint32_t value) {
 }
 
 void TestWindow::TakeFocusFor(WindowHandle active) {
-  X11DesktopWindows desktop;
-  Becomes([&] {
+  // Asked for once only: a request still waiting would take the focus back later.
+  if (IsManaged()) {
     SendToRoot(ewmh_._NET_ACTIVE_WINDOW, XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+  } else {
     xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
     xcb_flush(connection_);
-    return desktop.ActiveWindow() == active;
-  });
+  }
+  X11DesktopWindows desktop;
+  Becomes([&] { return desktop.ActiveWindow() == active; });
+}
+
+bool TestWindow::IsManaged() {
+  xcb_window_t manager = 0;
+  const auto cookie = xcb_ewmh_get_supporting_wm_check(&ewmh_, root_);
+  return xcb_ewmh_get_supporting_wm_check_reply(&ewmh_, cookie, &manager, nullptr) != 0;
 }
 
 void TestWindow::Minimize() {

@@ -22,7 +22,7 @@ struct WindowTraits {
   bool takes_focus = true;
 };
 
-// A shown window on a connection of its own.
+// A shown window on a connection of its own; active unless it is part of another or takes no focus.
 class TestWindow {
  public:
   explicit TestWindow(const WindowTraits& traits, WindowHandle parent = 0);
@@ -45,6 +45,7 @@ class TestWindow {
   std::string EnterKeys();
 
  private:
+  bool IsManaged();
   void State(const WindowTraits& traits);
   void SendToRoot(xcb_atom_t message, std::uint32_t value);
 

@@ -61,12 +61,14 @@ Activation ActivateWindow(X11Connection& x, WindowHandle window, ProcessId proce
   } else {
     Raise(x, window);
   }
-  WaitUntil([&x, window, managed] {
+  bool active = false;
+  WaitUntil([&] {
     // The focus is refused to a window that is not visible yet.
     if (!managed) Focus(x, window);
-    return FindActiveWindow(x) == window || !Exists(x, window);
+    active = FindActiveWindow(x) == window;
+    return active || !Exists(x, window);
   });
-  return FindActiveWindow(x) == window ? Activation::kActivated : Activation::kFailed;
+  return active ? Activation::kActivated : Activation::kFailed;
 }
 
 }  // namespace vellumark
