@@ -38,7 +38,7 @@ std::size_t EncodeBarely(const QImage& picture) {
   jpeg_set_quality(&encoder, QtPicture::kJpegQuality, TRUE);
   jpeg_start_compress(&encoder, TRUE);
   for (int y = 0; y < picture.height(); ++y) {
-    JSAMPROW line = const_cast<JSAMPROW>(picture.constScanLine(y));
+    auto* line = const_cast<JSAMPROW>(picture.constScanLine(y));
     jpeg_write_scanlines(&encoder, &line, 1);
   }
   jpeg_finish_compress(&encoder);

@@ -26,7 +26,7 @@ QImage ReadImage(const QMimeData& content) {
   const QStringList formats = content.formats();
   for (const QString& format : formats) {
     if (!format.startsWith(QLatin1String("image/"))) continue;
-    const QImage image = QImage::fromData(content.data(format));
+    QImage image = QImage::fromData(content.data(format));
     if (!image.isNull()) return image;
   }
   return {};

@@ -48,7 +48,7 @@ bool IsWindowsProgram(const QString& file) {
 
 QString FindWine(const QString& beside_path) {
   for (const char* name : {"wine", "wine64", "wine-stable"}) {
-    const QString found = QStandardPaths::findExecutable(QLatin1String(name));
+    QString found = QStandardPaths::findExecutable(QLatin1String(name));
     if (!found.isEmpty()) return found;
   }
   return QStandardPaths::findExecutable(QStringLiteral("wine64"), {beside_path});
