@@ -142,6 +142,45 @@ constexpr TableMessage kOwnMessages[] = {
     {kFolderRefusedLength,
      "This folder cannot be used: its path is too long, it can have 256 characters at most"},
 
+    {kReorderNumberTooLarge,
+     "This number cannot be used, it can be 32767 at most. The last number typed before it holds."},
+    {kReorderSlotNegative, "The max number of savegame cannot be negative"},
+    {kReorderNameBlanks, "This sub-folder name cannot be used: it begins or ends with a blank"},
+    {kReorderSlotName,
+     "This sub-folder name cannot be used in Tomb Raider folder: the sub-folders would take the "
+     "names of the game's savegames"},
+    {kReorderInBackup,
+     "The new archive cannot lie in ~1: this is where the game's own savegames wait while archived "
+     "ones are played"},
+    {kReorderInOldArchive,
+     "The new archive cannot lie in ~1: this is inside ~2, a sub-folder of the old archive that is "
+     "to be deleted"},
+    {kReorderStopped,
+     "The new sub-folder ~1 could not be created: ~2.~3Reordering has stopped. Nothing has been "
+     "deleted, and the old archive is still in use."},
+    {kReorderMadeSoFar,
+     "~1 savegames were copied before in ~2 new sub-folders, the first is ~3\r\nThese copies are "
+     "not needed: you can delete them."},
+    {kReorderNotCopied,
+     "Warning: not everything could be copied. These files are not in the new archive, but still "
+     "in the old one:"},
+    {kReorderNotFlushed, "Warning: the disk did not confirm that the new archive is safe: ~1."},
+    {kReorderOldKept, "Therefore nothing has been deleted from the old archive in ~1"},
+    {kReorderFoldersKept,
+     "Warning: these sub-folders of the old archive could not be deleted. What they hold is still "
+     "there:"},
+    {kReorderSetAside,
+     "In sub-folders of the old archive there were files that belong to no savegame. They have "
+     "been moved, and nothing of them was lost. They are now in:"},
+    {kReorderNotListed, "These lists of savegames could not be written:"},
+    {kExportNotCopied, "Warning: these screen-shots could not be copied:"},
+    {kOldFolderNeeded, "it is also used for something else, or its name exists twice"},
+    {kOldHoldsUnusable, "it holds a name that savegame archives cannot hold"},
+    {kOldHoldsSavegame, "~1 is not in the new archive, or has changed meanwhile"},
+    {kOldHoldsOther, "it holds ~1, which is no ordinary file"},
+    {kOldNotMoved, "~1 could not be moved out of it: ~2"},
+    {kOldNotDeleted, "~1 could not be deleted: ~2"},
+
     {kNothingOpens, "No program could be started that opens the file ~1"},
     {kFailureLine, "~2: ~1"},
     {kMoreFailures, "... and ~1 more"},
@@ -156,6 +195,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kNameFolders, "Folders"},
     {kNameFolderPath, "Path of the selected folder"},
     {kNameNewFolder, "Name of the new folder"},
+    {kNameProgress, "Progress"},
 
     {kReasonNotWhole, "it is too short"},
     {kReasonNotAnArchive, "it holds no archive settings"},

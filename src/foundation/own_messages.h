@@ -75,6 +75,29 @@ enum OwnMessage : int {
   kFolderRefusedTwice,        // no values
   kFolderRefusedLength,       // no values
 
+  // Reorder and export
+  kReorderNumberTooLarge,  // no values
+  kReorderSlotNegative,    // no values
+  kReorderNameBlanks,      // no values
+  kReorderSlotName,        // no values
+  kReorderInBackup,        // ~1 folder
+  kReorderInOldArchive,    // ~1 folder, ~2 old sub-folder
+  kReorderStopped,         // ~1 folder, ~2 reason, ~3 line break
+  kReorderMadeSoFar,       // ~1 savegames, ~2 sub-folders, ~3 first sub-folder
+  kReorderNotCopied,       // followed by failure lines
+  kReorderNotFlushed,      // ~1 reason
+  kReorderOldKept,         // ~1 old main folder
+  kReorderFoldersKept,     // followed by failure lines
+  kReorderSetAside,        // followed by folders
+  kReorderNotListed,       // followed by failure lines
+  kExportNotCopied,        // followed by failure lines
+  kOldFolderNeeded,        // reason
+  kOldHoldsUnusable,       // reason
+  kOldHoldsSavegame,       // reason, ~1 file
+  kOldHoldsOther,          // reason, ~1 name
+  kOldNotMoved,            // reason, ~1 file, ~2 reason
+  kOldNotDeleted,          // reason, ~1 file, ~2 reason
+
   // Everywhere
   kNothingOpens,  // ~1 file
   kFailureLine,   // ~1 reason, ~2 path
@@ -91,6 +114,7 @@ enum OwnMessage : int {
   kNameFolders,
   kNameFolderPath,
   kNameNewFolder,
+  kNameProgress,
 
   // Reasons, each a part of a sentence
   kReasonNotWhole,

@@ -11,6 +11,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "game/restore.h"
+#include "maintenance/export_shots.h"
 #include "program.h"
 
 namespace vellumark {
@@ -97,7 +98,10 @@ void UseChosenFolder(Program& program) {
     case ChooserMode::kPlain:
     case ChooserMode::kCopy:
     case ChooserMode::kMove:
+      break;
     case ChooserMode::kExportShots:
+      ExportLinkedShots(program, chooser.ChosenFolder);
+      program.preferences.ShotFolder = chooser.ChosenFolder;
       break;
   }
 }

@@ -1,0 +1,126 @@
+#include "maintenance/reorder_copying.h"
+
+#include <utility>
+
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/paths.h"
+#include "maintenance/reorder_order.h"
+#include "maintenance/reorder_plan.h"
+#include "program.h"
+#include "savegames/info_file.h"
+#include "savegames/slot_names.h"
+
+namespace vellumark {
+namespace {
+
+// Copies to a name that nothing has yet, and reads the copy back. Nothing is replaced, so it needs
+// no detour over a temporary name.
+FileError CopyToNewName(FileSystem& files, const std::string& source, const std::string& target) {
+  const FileError error = files.Copy(source, target);
+  if (error != FileError::kNone) return error;
+  if (SameContent(files, source, target)) return FileError::kNone;
+  files.Delete(target);
+  return FileError::kInputOutput;
+}
+
+class Copying {
+ public:
+  Copying(Program& program, const ReorderSettings& settings, const ReorderTarget& target)
+      : program_(program),
+        files_(program.files),
+        settings_(settings),
+        target_(target),
+        plan_(settings) {
+    made_.fates.resize(program.catalogue.entries.size());
+  }
+
+  NewArchive Run(const std::vector<std::size_t>& order, const ShowPercent& show) {
+    const auto count = static_cast<int>(order.size());
+    for (int position = 0; position < count && !made_.stopped; ++position) {
+      show(CopyingPercent(position, count, settings_.DeleteOldArchive));
+      Place(order[static_cast<std::size_t>(position)]);
+    }
+    if (!made_.stopped) FinishFolder();
+    return std::move(made_);
+  }
+
+ private:
+  void Place(std::size_t index) {
+    const SavegameEntry& entry = program_.catalogue.entries[index];
+    SavegameFate& fate = made_.fates[index];
+    if (settings_.RemoveEquals && arrived_.Contains(entry.LevelName, entry.InternalCounter)) {
+      ++made_.equals;
+      if (entry.FolderNumber != 0) fate.kind = SavegameFate::Kind::kDropped;
+      return;
+    }
+    if (entry.FolderNumber == 0) return;
+    if (plan_.NeedsNewFolder(entry.LevelName) && !StartFolder()) return;
+
+    fate.kind = SavegameFate::Kind::kCopied;
+    fate.folder = made_.folders.size() - 1;
+    fate.slot = plan_.TakeSlot(entry.LevelName);
+    CopyEntry(entry, fate.slot);
+    ++made_.copied;
+  }
+
+  bool StartFolder() {
+    FinishFolder();
+    plan_.BeginFolder();
+    const std::string folder = target_.Subfolder(plan_.folders());
+    const FileError error = files_.CreateFolder(folder);
+    if (error != FileError::kNone) {
+      made_.stopped = {folder, error};
+      return false;
+    }
+    made_.folders.push_back(folder);
+    made_.written.push_back(folder);
+    return true;
+  }
+
+  void FinishFolder() {
+    if (!settings_.CreateInfoFiles || made_.folders.empty()) return;
+    const std::string& folder = made_.folders.back();
+    const std::string info_file = folder + LoadMessage(195);
+    const FileError error = WriteInfoSection(program_, folder, info_file, InfoMode::kCreate).error;
+    if (error != FileError::kNone) made_.not_listed.push_back({info_file, error});
+  }
+
+  void CopyEntry(const SavegameEntry& entry, int slot) {
+    // An equal savegame may be dropped only for one that has really arrived.
+    if (CopyFile(entry.SavegamePath, SavegameFileName(slot))) {
+      arrived_.Add(entry.LevelName, entry.InternalCounter);
+    }
+    if (FileExists(files_, entry.NotePath)) CopyFile(entry.NotePath, NoteFileName(slot));
+    if (FileExists(files_, entry.ShotPath)) CopyFile(entry.ShotPath, ShotFileName(slot));
+  }
+
+  bool CopyFile(const std::string& source, const std::string& name) {
+    std::string copy = InFolder(made_.folders.back(), name);
+    const FileError error = CopyToNewName(files_, source, copy);
+    if (error != FileError::kNone) {
+      made_.not_copied.push_back({source, error});
+      return false;
+    }
+    made_.written.push_back(std::move(copy));
+    return true;
+  }
+
+  Program& program_;
+  FileSystem& files_;
+  const ReorderSettings& settings_;
+  const ReorderTarget& target_;
+  SubfolderPlan plan_;
+  KnownSavegames arrived_;
+  NewArchive made_;
+};
+
+}  // namespace
+
+NewArchive CopyInOrder(Program& program, const ReorderSettings& settings,
+                       const ReorderTarget& target, const std::vector<std::size_t>& order,
+                       const ShowPercent& show) {
+  return Copying(program, settings, target).Run(order, show);
+}
+
+}  // namespace vellumark

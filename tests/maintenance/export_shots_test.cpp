@@ -1,0 +1,104 @@
+#include "maintenance/export_shots.h"
+
+#include <gtest/gtest.h>
+
+#include "archive/scan.h"
+#include "maintenance/folder_chooser.h"
+#include "support/test_world.h"
+
+namespace vellumark {
+namespace {
+
+// An archive whose savegames all have a screen-shot that tells its slot. T:\Shots is empty.
+class ExportShotsTest : public ::testing::Test, public testing::TestWorld {
+ protected:
+  ExportShotsTest() {
+    disk.MakeFolder("Shots");
+    program.archive.settings = {"Slot", "T:\\Archive", "T:\\Game", "T:\\Game\\tomb4.exe", 15, 0};
+  }
+
+  void Add(const std::string& folder, int slot, const std::string& level, std::int16_t counter) {
+    AddSavegame(folder, slot, level, counter);
+    disk.Write(folder + "/shot" + std::to_string(slot) + ".jpg",
+               folder + ' ' + std::to_string(slot));
+  }
+
+  void Export() {
+    ScanArchive(program);
+    boxes.shown.clear();
+    sounds.played.clear();
+    ExportLinkedShots(program, "T:\\Shots");
+  }
+
+  Program program = NewProgram();
+};
+
+TEST_F(ExportShotsTest, NamesEachPictureByLevelAndCounterAndCountsEveryAttempt) {
+  program.preferences.SoundEffects = true;
+  Add("Archive/Slot1", 0, "Tower", 3);
+  Add("Archive/Slot1", 1, "Tower", -3);
+  Add("Archive/Slot1", 2, "Tower", 3);
+  Add("Game", 0, "Maze.", 1);
+  AddSavegame("Game", 1, "Without", 2);
+  disk.Write("Shots/tower_3.jpg", "an older one");
+  Export();
+  EXPECT_EQ(disk.Names("Shots"),
+            (std::vector<std::string>{"Maze._1.jpg", "Tower_-3.jpg", "tower_3.jpg"}));
+  EXPECT_EQ(disk.Read("Shots/tower_3.jpg"), "Archive/Slot1 2") << "the later one stays";
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "Copied 4 screenshots in folder\"T:\\Shots\"");
+  EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kNone);
+  ASSERT_EQ(sounds.played.size(), 1U);
+  EXPECT_TRUE(sounds.played[0].ends_with("s6.wav"));
+}
+
+TEST_F(ExportShotsTest, ReplacesWhatAFileNameCannotHold) {
+  Add("Archive/Slot1", 0, "What?", 1);
+  Add("Archive/Slot1", 1, "What_", 1);
+  Add("Archive/Slot1", 2, "What*", 1);
+  Add("Archive/Slot1", 3, "a/b\\c:d\x01", 2);
+  Add("Archive/Slot1", 4, "con.x", 3);
+  Add("Archive/Slot1", 5, "..\\..\\up", 4);
+  Export();
+  EXPECT_EQ(disk.Names("Shots"),
+            (std::vector<std::string>{".._.._up_4.jpg", "What__1 (2).jpg", "What__1 (3).jpg",
+                                      "What__1.jpg", "a_b_c_d__2.jpg", "con_x_3.jpg"}));
+  EXPECT_EQ(disk.Read("Shots/What__1.jpg"), "Archive/Slot1 1") << "its name needs no change";
+  EXPECT_EQ(disk.Read("Shots/What__1 (2).jpg"), "Archive/Slot1 0");
+}
+
+TEST_F(ExportShotsTest, ALinkedScreenShotIsNeverWrittenOver) {
+  Add("Archive/Slot1", 0, "Tower", 3);
+  Add("Archive/Slot1", 1, "Maze", 4);
+  disk.Write("Shots/Tower_3.jpg", "linked by Maze");
+  std::filesystem::remove(disk.path() / "Archive/Slot1/shot1.jpg");
+  std::filesystem::create_symlink(disk.path() / "Shots/Tower_3.jpg",
+                                  disk.path() / "Archive/Slot1/shot1.jpg");
+  Export();
+  EXPECT_EQ(disk.Read("Archive/Slot1/shot1.jpg"), "linked by Maze");
+  EXPECT_EQ(disk.Read("Shots/Tower_3 (2).jpg"), "Archive/Slot1 0");
+  EXPECT_EQ(disk.Read("Shots/Maze_4.jpg"), "linked by Maze");
+}
+
+TEST_F(ExportShotsTest, FailuresCountAndAreNamedOnceAtTheEnd) {
+  Add("Archive/Slot1", 0, "Tower", 3);
+  Add("Archive/Slot1", 1, "Maze", 4);
+  disk.MakeFolder("Shots/Tower_3.jpg");
+  Export();
+  ASSERT_EQ(boxes.shown.size(), 2U);
+  EXPECT_EQ(boxes.shown[0].text, "Copied 2 screenshots in folder\"T:\\Shots\"");
+  EXPECT_NE(boxes.shown[1].text.find("\\shot0.jpg\": "), std::string::npos) << boxes.shown[1].text;
+  EXPECT_TRUE(disk.Exists("Shots/Maze_4.jpg"));
+}
+
+TEST_F(ExportShotsTest, TheChooserExportsIntoItsFolderAndKeepsItForTheNextTime) {
+  Add("Archive/Slot1", 0, "Tower", 3);
+  ScanArchive(program);
+  program.chooser.FolderChooserMode = ChooserMode::kExportShots;
+  EXPECT_TRUE(TakeFolder(program, "T:\\Shots"));
+  EXPECT_TRUE(disk.Exists("Shots/Tower_3.jpg"));
+  EXPECT_EQ(program.preferences.ShotFolder, "T:\\Shots");
+}
+
+}  // namespace
+}  // namespace vellumark
