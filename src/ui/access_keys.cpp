@@ -66,6 +66,21 @@ constexpr AccessKey kGetDirKeys[] = {
     {"CancelButton", 'C'},
 };
 
+constexpr AccessKey kRiordinaKeys[] = {
+    {"Label1", 'M'},
+    {"Pul_PercorsoBase", 'B'},
+    {"Label2", 'S'},
+    {"Label9", 'X'},
+    {"Check_CreaInfo", 'I'},
+    {"Check_NonMescolare", 'D'},
+    {"Check_EliminaUguali", 'E'},
+    {"Check_EliminaSorgente", 'A'},
+    {"Label3", 'N'},
+    {"Pul_CopiaShot", 'L'},
+    {"Pul_Riordina", 'R'},
+    {"Pul_Annulla", 'C'},
+};
+
 std::span<const AccessKey> KeysOf(WindowId window) {
   switch (window) {
     case WindowId::kPrincipale:
@@ -80,6 +95,8 @@ std::span<const AccessKey> KeysOf(WindowId window) {
       return kNoteKeys;
     case WindowId::kDialogGetDir:
       return kGetDirKeys;
+    case WindowId::kDialogRiordina:
+      return kRiordinaKeys;
     default:
       return {};
   }

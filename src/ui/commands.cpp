@@ -39,7 +39,7 @@ constexpr Command kCommands[] = {
     {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", nullptr},
     {"mnu_Savegames", "mnu_Delete", nullptr, "Del", nullptr},
 
-    {"mnu_Tools", "mnu_Reorder", nullptr, "", nullptr},
+    {"mnu_Tools", "mnu_Reorder", nullptr, "", Show<WindowId::kDialogRiordina>},
     {"mnu_Tools", "mnu_Scansione", nullptr, "F5", RescanCommand},
 
     {"mnu_Preference", "mnu_PrefArchive", nullptr, "", Show<WindowId::kDialogSetNewArc>},

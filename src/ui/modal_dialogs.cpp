@@ -4,6 +4,7 @@
 #include "ui/folder_chooser_dialog.h"
 #include "ui/modal_dialog.h"
 #include "ui/preferences_dialog.h"
+#include "ui/reorder_dialog.h"
 #include "ui/savegame_properties_dialog.h"
 #include "ui/search_dialog.h"
 
@@ -21,6 +22,8 @@ std::unique_ptr<ModalDialog> MakeModalDialog(WindowId window, Program& program) 
       return std::make_unique<SavegamePropertiesDialog>(program);
     case WindowId::kDialogGetDir:
       return std::make_unique<FolderChooserDialog>(program);
+    case WindowId::kDialogRiordina:
+      return std::make_unique<ReorderDialog>(program);
     default:
       return nullptr;
   }
