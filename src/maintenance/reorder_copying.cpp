@@ -14,15 +14,26 @@
 namespace vellumark {
 namespace {
 
-// Copies to a name that nothing has yet, and reads the copy back. Nothing is replaced, so it needs
-// no detour over a temporary name.
-FileError CopyToNewName(FileSystem& files, const std::string& source, const std::string& target) {
-  const FileError error = files.Copy(source, target);
-  if (error != FileError::kNone) return error;
-  if (SameContent(files, source, target)) return FileError::kNone;
-  files.Delete(target);
-  return FileError::kInputOutput;
-}
+// Finds the disk's spelling of a catalogue's paths, which are in lower case: a file is found much
+// faster by it.
+class DiskSpelling {
+ public:
+  explicit DiskSpelling(FileSystem& files) : files_(files) {}
+
+  std::string Of(const std::string& path) {
+    const std::string folder = FolderOf(path);
+    if (folder != folder_) {
+      folder_ = folder;
+      spelled_ = files_.FromHostPath(files_.HostPath(folder)).value_or(folder);
+    }
+    return InFolder(spelled_, FileNameOf(path));
+  }
+
+ private:
+  FileSystem& files_;
+  std::string folder_;
+  std::string spelled_;
+};
 
 class Copying {
  public:
@@ -31,7 +42,8 @@ class Copying {
         files_(program.files),
         settings_(settings),
         target_(target),
-        plan_(settings) {
+        plan_(settings),
+        spelling_(program.files) {
     made_.fates.resize(program.catalogue.entries.size());
   }
 
@@ -88,16 +100,19 @@ class Copying {
 
   void CopyEntry(const SavegameEntry& entry, int slot) {
     // An equal savegame may be dropped only for one that has really arrived.
-    if (CopyFile(entry.SavegamePath, SavegameFileName(slot))) {
+    if (CopyFile(spelling_.Of(entry.SavegamePath), SavegameFileName(slot))) {
       arrived_.Add(entry.LevelName, entry.InternalCounter);
     }
-    if (FileExists(files_, entry.NotePath)) CopyFile(entry.NotePath, NoteFileName(slot));
-    if (FileExists(files_, entry.ShotPath)) CopyFile(entry.ShotPath, ShotFileName(slot));
+    const std::string note = spelling_.Of(entry.NotePath);
+    if (FileExists(files_, note)) CopyFile(note, NoteFileName(slot));
+    const std::string shot = spelling_.Of(entry.ShotPath);
+    if (FileExists(files_, shot)) CopyFile(shot, ShotFileName(slot));
   }
 
   bool CopyFile(const std::string& source, const std::string& name) {
     std::string copy = InFolder(made_.folders.back(), name);
-    const FileError error = CopyToNewName(files_, source, copy);
+    // Nothing is replaced, so it needs no detour over a temporary name.
+    const FileError error = files_.CopyVerified(source, copy);
     if (error != FileError::kNone) {
       made_.not_copied.push_back({source, error});
       return false;
@@ -111,6 +126,7 @@ class Copying {
   const ReorderSettings& settings_;
   const ReorderTarget& target_;
   SubfolderPlan plan_;
+  DiskSpelling spelling_;
   KnownSavegames arrived_;
   NewArchive made_;
 };

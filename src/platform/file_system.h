@@ -170,6 +170,10 @@ class FileSystem {
   // kAlreadyExists when the name is taken.
   virtual FileError Copy(const std::string& source, const std::string& target) = 0;
 
+  // Copies as Copy does, reads the copy back and compares; one that differs is taken away again and
+  // is kInputOutput. Built from the other operations where a system has nothing faster.
+  virtual FileError CopyVerified(const std::string& source, const std::string& target);
+
   // Returns when the contents and names of these files are safe on the medium. One call for all
   // files of an operation is cheaper than one call each.
   virtual FileError Flush(const std::vector<std::string>& paths) = 0;

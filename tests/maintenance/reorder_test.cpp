@@ -221,7 +221,7 @@ TEST_F(ReorderTest, AFailedCopyCostsNeitherItsEqualNorTheOldArchive) {
   settings.RemoveEquals = true;
   settings.DeleteOldArchive = true;
   const Files before = disk.AllFiles();
-  files.FailAlways("Copy", "slot1\\savegame.4", FileError::kDiskFull);
+  files.FailAlways("Copy", "Slot1\\savegame.4", FileError::kDiskFull);
   ASSERT_TRUE(Reorder());
   EXPECT_NE(boxes.shown[0].text.find("Savegames = 6\r"), std::string::npos) << "it counts";
   std::set<std::string> arrived;
@@ -231,7 +231,7 @@ TEST_F(ReorderTest, AFailedCopyCostsNeitherItsEqualNorTheOldArchive) {
   EXPECT_TRUE(arrived.contains(SavegameBytes("Maze", 7, 5)));
   for (const auto& [name, bytes] : before) EXPECT_EQ(disk.Read(name), bytes);
   const std::string& report = boxes.shown.back().text;
-  EXPECT_NE(report.find("\\slot1\\savegame.4\": the disk is full"), std::string::npos) << report;
+  EXPECT_NE(report.find("\\Slot1\\savegame.4\": the disk is full"), std::string::npos) << report;
   EXPECT_NE(report.find("nothing has been deleted from the old archive in \"T:\\Archive\""),
             std::string::npos);
 }

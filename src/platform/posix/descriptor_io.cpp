@@ -101,4 +101,26 @@ int CopyAll(int from, int to) {
   }
 }
 
+int CompareAll(int a, int b) {
+  Block first;
+  Block second;
+  if (lseek(a, 0, SEEK_SET) < 0 || lseek(b, 0, SEEK_SET) < 0) return errno;
+  for (;;) {
+    const ssize_t count = ReadOnce(a, first.data(), first.size());
+    if (count < 0) return errno;
+    if (count == 0) {
+      const ssize_t more = ReadOnce(b, second.data(), second.size());
+      return more < 0 ? errno : more == 0 ? 0 : EIO;
+    }
+
+    for (ssize_t done = 0; done < count;) {
+      const ssize_t part = ReadOnce(b, second.data(), static_cast<std::size_t>(count - done));
+      if (part < 0) return errno;
+      if (part == 0) return EIO;
+      if (!std::equal(second.begin(), second.begin() + part, first.begin() + done)) return EIO;
+      done += part;
+    }
+  }
+}
+
 }  // namespace vellumark

@@ -53,6 +53,10 @@ int ReadAllAt(int file, std::uint64_t offset, std::string* bytes);
 // or 0.
 int CopyAll(int from, int to);
 
+// Reads both files from their beginning; 0 when they hold the same bytes, EIO when they differ,
+// otherwise the number of the failure.
+int CompareAll(int a, int b);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_PLATFORM_POSIX_DESCRIPTOR_IO_H_

@@ -10,7 +10,7 @@ namespace vellumark {
 
 NewFile::NewFile(std::string host)
     : host_(std::move(host)),
-      file_(open(host_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)),
+      file_(open(host_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666)),
       error_(file_.IsOpen() ? 0 : errno) {}
 
 NewFile::~NewFile() {

@@ -47,6 +47,7 @@ class PosixFileSystem final : public FileSystem {
   FileError Append(const std::string& path, std::string_view bytes) override;
   FileError WriteAt(const std::string& path, std::uint64_t offset, std::string_view bytes) override;
   FileError Copy(const std::string& source, const std::string& target) override;
+  FileError CopyVerified(const std::string& source, const std::string& target) override;
   FileError Flush(const std::vector<std::string>& paths) override;
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override;
   FileError Delete(const std::string& path) override;
@@ -71,6 +72,7 @@ class PosixFileSystem final : public FileSystem {
   CheckedPath PathToLookFor(const std::string& path) const;
   CheckedPath PathToMake(const std::string& path) const;
 
+  FileError CopyToNew(const std::string& source, const std::string& target, bool verify);
   PathStatus Status(const std::string& path);
   FileError OpenDirectory(const WindowsPath& path, Directory* directory);
   // The place of a file that is to be changed: one that exists and is not ambiguous.

@@ -85,14 +85,7 @@ FileError FlushFolder(const std::string& host) {
   return error == FileError::kBadName ? FileError::kNone : error;
 }
 
-FileError FlushFileSystems(const std::set<std::string>& hosts) {
-  std::map<dev_t, std::string> one_of_each;
-  for (const std::string& host : hosts) {
-    struct stat status = {};
-    if (stat(host.c_str(), &status) != 0) return FileErrorFromNumber(errno);
-    one_of_each.emplace(status.st_dev, host);
-  }
-
+FileError FlushFileSystems(const std::map<dev_t, std::string>& one_of_each) {
   FileError first_error = FileError::kNone;
   for (const auto& [device, host] : one_of_each) {
     const FileError error = FlushOne(host, syncfs);
@@ -198,6 +191,15 @@ FileError PosixFileSystem::WriteAt(const std::string& path, std::uint64_t offset
 }
 
 FileError PosixFileSystem::Copy(const std::string& source, const std::string& target) {
+  return CopyToNew(source, target, false);
+}
+
+FileError PosixFileSystem::CopyVerified(const std::string& source, const std::string& target) {
+  return CopyToNew(source, target, true);
+}
+
+FileError PosixFileSystem::CopyToNew(const std::string& source, const std::string& target,
+                                     bool verify) {
   const PathStatus found = Status(source);
   if (found.error != FileError::kNone && !found.dead_link) return found.error;
   if (found.dead_link || !S_ISREG(found.status.st_mode)) return FileError::kAccessDenied;
@@ -211,6 +213,7 @@ FileError PosixFileSystem::Copy(const std::string& source, const std::string& ta
   NewFile to(place.Host());
   if (to.error() != 0) return FileErrorFromNumber(to.error());
   int failure = CopyAll(from.number(), to.descriptor());
+  if (failure == 0 && verify) failure = CompareAll(from.number(), to.descriptor());
   const std::array<timespec, 2> times = {timespec{0, UTIME_OMIT}, status.st_mtim};
   // Not every disk takes a time; the copy is whole without it.
   if (failure == 0) static_cast<void>(futimens(to.descriptor(), times.data()));
@@ -226,6 +229,7 @@ FileError PosixFileSystem::Flush(const std::vector<std::string>& paths) {
 
   std::set<std::string> files;
   std::set<std::string> folders;
+  std::map<dev_t, std::string> one_of_each;  // for each file system, something on it
   for (const std::string& path : paths) {
     const PathStatus found = Status(path);
     note(found.error);
@@ -236,6 +240,7 @@ FileError PosixFileSystem::Flush(const std::vector<std::string>& paths) {
       note(FileError::kAccessDenied);
       continue;
     }
+    one_of_each.emplace(found.status.st_dev, found.host);
     (folder ? folders : files).insert(found.host);
     // The name itself is kept in the folder that holds it.
     const std::size_t slash = found.host.rfind('/');
@@ -243,8 +248,7 @@ FileError PosixFileSystem::Flush(const std::vector<std::string>& paths) {
   }
 
   if (paths.size() > kMostSingleFlushes) {
-    files.merge(folders);
-    note(FlushFileSystems(files));
+    note(FlushFileSystems(one_of_each));
     return first_error;
   }
   for (const std::string& file : files) note(FlushOne(file, fsync));

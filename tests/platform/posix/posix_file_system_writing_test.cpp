@@ -1,4 +1,5 @@
 // What changes the disk, and what must not.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -13,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/posix/descriptor_io.h"
 #include "platform/posix/free_name_rename.h"
 #include "platform/posix/posix_file_system_fixture.h"
 
@@ -211,6 +213,33 @@ TEST_F(WritingTest, CopyKeepsTheBytesAndTheTimeOfChange) {
   EXPECT_EQ(fs_.Copy("T:\\From", "T:\\from"), FileError::kAlreadyExists);
   EXPECT_EQ(host_.Get("Taken"), "old");
   EXPECT_EQ(fs_.Copy("T:\\", "T:\\x"), FileError::kAccessDenied);
+}
+
+TEST_F(WritingTest, AVerifiedCopyIsReadBackWhole) {
+  for (const std::size_t size : {0U, 1U, 65536U, 200000U}) {
+    host_.Put("From", std::string(size, 'x'));
+    const std::string target = "T:\\To" + std::to_string(size);
+    EXPECT_EQ(fs_.CopyVerified("T:\\From", target), FileError::kNone);
+    EXPECT_EQ(host_.Get(target.substr(3)), std::string(size, 'x'));
+    EXPECT_EQ(fs_.CopyVerified("T:\\From", target), FileError::kAlreadyExists);
+  }
+}
+
+TEST(CompareAllTest, FindsEveryDifference) {
+  const HostFolder folder;
+  const std::string bytes(150000, 'x');
+  std::string other_end = bytes;
+  other_end.back() = 'y';
+  const std::pair<std::string, int> others[] = {
+      {bytes, 0}, {other_end, EIO}, {bytes + 'x', EIO}, {bytes.substr(1), EIO}, {"", EIO}};
+  folder.Put("a", bytes);
+  const Descriptor a(open((folder / "a").c_str(), O_RDONLY | O_CLOEXEC));
+  for (const auto& [content, expected] : others) {
+    folder.Put("b", content);
+    const Descriptor b(open((folder / "b").c_str(), O_RDONLY | O_CLOEXEC));
+    EXPECT_EQ(CompareAll(a.number(), b.number()), expected);
+    EXPECT_EQ(CompareAll(b.number(), a.number()), expected);
+  }
 }
 
 TEST_F(WritingTest, RenameNeverTakesATakenName) {
