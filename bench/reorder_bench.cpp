@@ -1,0 +1,202 @@
+// Reordering 10,000 savegames into a new archive, against the faster of cp and rsync copying the
+// same files; and the sort alone, against a plain exchange sort of the counters.
+// usage: reorder_bench ARCHIVE WORK-FOLDER
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "archive/catalogue_builder.h"
+#include "bench_run.h"
+#include "maintenance/reorder.h"
+#include "maintenance/reorder_order.h"
+#include "measured.h"
+#include "platform/system_services.h"
+#include "program.h"
+#include "support/scripted_desktop.h"
+
+namespace {
+
+using namespace vellumark;
+using namespace vellumark::bench;
+namespace fs = std::filesystem;
+
+constexpr int kFilesOfSavegames = 2 * kSavegames;
+
+void RunProgram(const std::vector<std::string>& command) {
+  WaitForSuccess(StartProgram(command), command[0]);
+}
+
+// The archive with every second note left out, so that half of the savegames have one.
+void MakeSource(const fs::path& archive, const fs::path& source) {
+  RunProgram({"cp", "-a", archive.string(), source.string()});
+  for (int k = 1; k <= kFolders; ++k) {
+    for (int slot = 1; slot < kSlotsInFolder; slot += 2) {
+      fs::remove(source / (kSubfolderBaseName + std::to_string(k)) /
+                 ("note" + std::to_string(slot) + ".txt"));
+    }
+  }
+}
+
+int FilesBelow(const fs::path& folder) {
+  int files = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.is_regular_file()) ++files;
+  }
+  return files;
+}
+
+// The seconds that `copy` takes to fill the empty folder `target`. Nothing waits to be written when
+// it begins.
+template <typename Copy>
+double TimeCopying(const fs::path& target, Copy copy) {
+  fs::remove_all(target);
+  fs::create_directory(target);
+  RunProgram({"sync"});
+  const double begin = Now();
+  copy();
+  const double end = Now();
+  Require(FilesBelow(target) == kFilesOfSavegames, "Not every file has been copied.");
+  return end - begin;
+}
+
+class ReorderingProgram {
+ public:
+  ReorderingProgram(const fs::path& source, const fs::path& target, const fs::path& game)
+      : source_(CorePath(*files_, source)), target_(CorePath(*files_, target)) {
+    program_.archive.settings.GameFolder = CorePath(*files_, game);
+  }
+
+  // Makes the source the current archive again.
+  void Prepare() {
+    ArchiveSettings& settings = program_.archive.settings;
+    settings.MainFolder = source_;
+    settings.SubfolderBaseName = kSubfolderBaseName;
+    settings.MaxSavegame = kSlotsInFolder - 1;
+    program_.catalogue =
+        BuildCatalogue(*files_, *text_, {.settings = settings, .game_folder = settings.GameFolder})
+            .catalogue;
+    Require(program_.catalogue.entries.size() == kSavegames, "The catalogue is not whole.");
+    boxes_.shown.clear();
+  }
+
+  void Reorder() {
+    const ReorderSettings settings{
+        .BasePath = target_, .FolderName = "Part", .MaxSlot = kSlotsInFolder - 1};
+    const bool done = ReorderArchive(program_, settings, [](int) {});
+    Require(done && boxes_.shown.size() == 1, "The archive has not been reordered.");
+    Require(program_.catalogue.entries.size() == kSavegames, "The new archive is not whole.");
+  }
+
+ private:
+  std::unique_ptr<Text> text_ = MakeSystemText();
+  std::unique_ptr<FileSystem> files_ = MakeSystemFileSystem(*text_);
+  vellumark::testing::ScriptedMessageBoxes boxes_;
+  vellumark::testing::ScriptedFileDialogs dialogs_;
+  vellumark::testing::RecordedSounds sounds_;
+  vellumark::testing::RecordedShell shell_;
+  vellumark::testing::ScriptedDesktopWindows desktop_;
+  vellumark::testing::ScriptedClipboard clipboard_;
+  vellumark::testing::ScriptedWindows windows_;
+  Program program_{.files = *files_,
+                   .text = *text_,
+                   .boxes = boxes_,
+                   .file_dialogs = dialogs_,
+                   .sounds = sounds_,
+                   .shell = shell_,
+                   .desktop = desktop_,
+                   .clipboard = clipboard_,
+                   .windows = windows_,
+                   .main_window = windows_};
+  std::string source_;
+  std::string target_;
+};
+
+void CompareCopying(const fs::path& archive, const fs::path& work) {
+  const fs::path source = work / "source";
+  const fs::path target = work / "target";
+  const fs::path game = work / "game";
+  MakeSource(archive, source);
+  fs::create_directory(game);
+
+  const auto copy_by = [&](std::vector<std::string> command) {
+    command.push_back(source.string() + "/.");
+    command.push_back(target.string());
+    return [&target, command] {
+      return TimeCopying(target, [&command] {
+        RunProgram(command);
+        RunProgram({"sync"});
+      });
+    };
+  };
+  const auto cp = copy_by({"cp", "-a", "--reflink=never"});
+  const auto rsync = copy_by({"rsync", "-a"});
+  const Medians copiers = MedianOfFive(cp, rsync);
+  std::fprintf(stderr, "reorder: cp %.0f ms, rsync %.0f ms\n", copiers.baseline * 1000,
+               copiers.ours * 1000);
+
+  ReorderingProgram program(source, target, game);
+  const auto ours = [&] {
+    program.Prepare();
+    return TimeCopying(target, [&program] { program.Reorder(); });
+  };
+  const bool cp_is_faster = copiers.baseline < copiers.ours;
+  PrintRatio(cp_is_faster ? "reorder / cp -a, sync" : "reorder / rsync -a, sync",
+             cp_is_faster ? MedianOfFive(cp, ours) : MedianOfFive(rsync, ours), 1.3);
+}
+
+// All counters falling, all levels the same.
+std::vector<std::int16_t> FallingCounters() {
+  std::vector<std::int16_t> counters;
+  for (int i = 0; i < kSavegames; ++i) counters.push_back(static_cast<std::int16_t>(-i));
+  return counters;
+}
+
+void CompareSorting() {
+  const std::vector<std::int16_t> counters = FallingCounters();
+  const std::string level = "Valley Of The Kings";
+  std::vector<std::int16_t> sorted;
+  const auto plain = [&] {
+    sorted = counters;
+    const double begin = Now();
+    for (std::size_t i = 0; i + 1 < sorted.size(); ++i) {
+      for (std::size_t j = i + 1; j < sorted.size(); ++j) {
+        if (sorted[i] > sorted[j]) std::swap(sorted[i], sorted[j]);
+      }
+    }
+    return Now() - begin;
+  };
+
+  CounterOrder order;
+  int equals = 0;
+  const auto ours = [&] {
+    equals = 0;
+    const double begin = Now();
+    order = SortByCounter(counters);
+    KnownSavegames known;
+    for (const std::size_t index : order.indices) {
+      if (known.Contains(level, counters[index])) {
+        ++equals;
+      } else {
+        known.Add(level, counters[index]);
+      }
+    }
+    return Now() - begin;
+  };
+  const Medians seconds = MedianOfFive(plain, ours);
+  std::vector<std::int16_t> ordered;
+  for (const std::size_t index : order.indices) ordered.push_back(counters[index]);
+  Require(ordered == sorted && equals == 0, "The two sorts differ.");
+  PrintRatio("reorder, sort / plain sort", seconds, 1.2);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Require(argc == 3, "usage: reorder_bench ARCHIVE WORK-FOLDER");
+  CompareSorting();
+  CompareCopying(argv[1], argv[2]);
+}
