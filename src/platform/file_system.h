@@ -187,6 +187,15 @@ class FileSystem {
   // Deletes a file, never a folder. Read-only: kAccessDenied. Ambiguous: kAmbiguous.
   virtual FileError Delete(const std::string& path) = 0;
 
+  // Delete for many files, in their order; an answer for each. It may look at what a folder holds
+  // once for all of them, before the first is deleted.
+  virtual std::vector<FileError> DeleteAll(const std::vector<std::string>& paths) {
+    std::vector<FileError> errors;
+    errors.reserve(paths.size());
+    for (const std::string& path : paths) errors.push_back(Delete(path));
+    return errors;
+  }
+
   // Takes read-only, hidden and system away from a file.
   virtual FileError ClearAttributes(const std::string& path) = 0;
 

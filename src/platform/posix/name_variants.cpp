@@ -45,15 +45,27 @@ bool VariantFinder::Stamp::IsAtRest(std::time_t rest) const {
   return modified.tv_sec + rest < now.tv_sec && changed.tv_sec + rest < now.tv_sec;
 }
 
+NameVariants VariantFinder::Known(const VariantsByName& names, const std::string& folded) {
+  const auto found = names.find(folded);
+  return found == names.end() ? NameVariants{} : found->second;
+}
+
+void VariantFinder::LetGo() {
+  holding_ = false;
+  held_.clear();
+}
+
 NameVariants VariantFinder::Find(const std::string& host_folder, std::string_view name) {
   const std::string folded = names_.Fold(name);
+  if (const auto held = held_.find(host_folder); held != held_.end()) {
+    return Known(held->second, folded);
+  }
 
   if (const auto known = folders_.find(host_folder); known != folders_.end()) {
     struct stat status = {};
     if (stat(host_folder.c_str(), &status) != 0) return Failed(errno);
     if (known->second.stamp == Stamp(status)) {
-      const auto found = known->second.by_folded_name.find(folded);
-      return found == known->second.by_folded_name.end() ? NameVariants{} : found->second;
+      return Known(known->second.by_folded_name, folded);
     }
     folders_.erase(known);
   }
@@ -65,7 +77,7 @@ NameVariants VariantFinder::Find(const std::string& host_folder, std::string_vie
 
   // A folder that is just being changed is not worth remembering: one pass that keeps nothing.
   Remembered folder = {Stamp(status), {}};
-  const bool remember = folder.stamp.IsAtRest(rest_);
+  const bool remember = holding_ || folder.stamp.IsAtRest(rest_);
   NameVariants variants;
   while (const dirent* entry = directory.Next()) {
     if (names_.HostNameFoldsTo(entry->d_name, folded)) Add(entry->d_name, &variants);
@@ -76,7 +88,9 @@ NameVariants VariantFinder::Find(const std::string& host_folder, std::string_vie
   }
   if (directory.error() != 0) return Failed(directory.error());
 
-  if (remember) {
+  if (holding_) {
+    held_.emplace(host_folder, std::move(folder.by_folded_name));
+  } else if (remember) {
     if (folders_.size() >= kMostFolders) folders_.clear();
     folders_.emplace(host_folder, std::move(folder));
   }

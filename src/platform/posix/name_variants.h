@@ -35,7 +35,15 @@ class VariantFinder {
 
   NameVariants Find(const std::string& host_folder, std::string_view name);
 
+  // From Hold to LetGo each folder is listed once and then taken for unchanged.
+  void Hold() { holding_ = true; }
+  void LetGo();
+
  private:
+  using VariantsByName = std::unordered_map<std::string, NameVariants>;
+
+  static NameVariants Known(const VariantsByName& names, const std::string& folded);
+
   struct Stamp {
     explicit Stamp(const struct stat& status);
     bool operator==(const Stamp&) const;
@@ -49,12 +57,14 @@ class VariantFinder {
 
   struct Remembered {
     Stamp stamp;
-    std::unordered_map<std::string, NameVariants> by_folded_name;
+    VariantsByName by_folded_name;
   };
 
   const PathNames& names_;
   const std::time_t rest_;
   std::unordered_map<std::string, Remembered> folders_;  // by host path
+  bool holding_ = false;
+  std::unordered_map<std::string, VariantsByName> held_;  // by host path
 };
 
 }  // namespace vellumark

@@ -86,6 +86,16 @@ FoundPath PathLookup::FindPart(const WindowsPath& path, std::size_t count) {
           folder.ambiguous || variants.count > 1};
 }
 
+// The folder that holds, or would hold, what the path names.
+FoundPath PathLookup::FindFolder(const WindowsPath& path) {
+  const std::size_t count = path.names.size() - 1;
+  if (!holding_) return FindPart(path, count);
+
+  const auto [known, is_new] = held_folders_.try_emplace(SpelledPart(path, count));
+  if (is_new) known->second = FindPart(path, count);
+  return known->second;
+}
+
 PathStatus PathLookup::Status(const WindowsPath& path) {
   PathStatus result;
   result.host = Spelled(path);
@@ -111,7 +121,7 @@ NamePlace PathLookup::FindPlace(const WindowsPath& path) {
     return place;
   }
 
-  FoundPath folder = FindPart(path, path.names.size() - 1);
+  FoundPath folder = FindFolder(path);
   place.error = folder.error;
   if (place.error != FileError::kNone) return place;
   place.folder = std::move(folder.host);

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <unordered_map>
 
 #include "platform/file_system.h"
 #include "platform/posix/drive_map.h"
@@ -46,6 +47,25 @@ class PathLookup {
  public:
   PathLookup(DriveMap drives, const PathNames& names);
 
+  // While it lives, FindPlace finds each folder and lists it only once: for deleting many files.
+  class Hold {
+   public:
+    explicit Hold(PathLookup& lookup) : lookup_(lookup) {
+      lookup_.holding_ = true;
+      lookup_.variants_.Hold();
+    }
+    ~Hold() {
+      lookup_.holding_ = false;
+      lookup_.held_folders_.clear();
+      lookup_.variants_.LetGo();
+    }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+   private:
+    PathLookup& lookup_;
+  };
+
   const DriveMap& drives() const { return drives_; }
 
   // The host path of a path in its own spelling, whether it exists or not; empty when the drive
@@ -62,10 +82,13 @@ class PathLookup {
  private:
   std::string SpelledPart(const WindowsPath& path, std::size_t count) const;
   FoundPath FindPart(const WindowsPath& path, std::size_t count);
+  FoundPath FindFolder(const WindowsPath& path);
 
   DriveMap drives_;
   const PathNames& names_;
   VariantFinder variants_;
+  bool holding_ = false;
+  std::unordered_map<std::string, FoundPath> held_folders_;  // by spelled host path
 };
 
 }  // namespace vellumark

@@ -51,6 +51,7 @@ class PosixFileSystem final : public FileSystem {
   FileError Flush(const std::vector<std::string>& paths) override;
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override;
   FileError Delete(const std::string& path) override;
+  std::vector<FileError> DeleteAll(const std::vector<std::string>& paths) override;
   FileError ClearAttributes(const std::string& path) override;
   FileError CreateFolder(const std::string& path) override;
   FileError RemoveFolder(const std::string& path) override;

@@ -285,6 +285,11 @@ FileError PosixFileSystem::Delete(const std::string& path) {
   return FileErrorFromNumber(unlink(place.Host().c_str()) == 0 ? 0 : errno);
 }
 
+std::vector<FileError> PosixFileSystem::DeleteAll(const std::vector<std::string>& paths) {
+  const PathLookup::Hold hold(lookup_);
+  return FileSystem::DeleteAll(paths);
+}
+
 FileError PosixFileSystem::ClearAttributes(const std::string& path) {
   const NamePlace place = PlaceToChange(path);
   if (place.error != FileError::kNone) return place.error;

@@ -306,6 +306,25 @@ TEST_F(WritingTest, RenamingInOneStepOrInSeveralNeverReplaces) {
   EXPECT_EQ(Snapshot(), (std::map<std::string, std::string>{{"b", "2"}, {"c", "1"}, {"d", "/"}}));
 }
 
+TEST_F(WritingTest, DeleteAllAnswersForEachFileWhatDeleteWould) {
+  for (const char* name : {"Arc/one", "Arc/Two", "Arc/twice", "Arc/TWICE", "Arc/locked"}) {
+    host_.Put(name, "x");
+  }
+  MakeReadOnly("Arc/locked");
+  const std::vector<FileError> expected = {
+      FileError::kNone,         FileError::kNotFound,     FileError::kNotFound,
+      FileError::kNone,         FileError::kAccessDenied, FileError::kAmbiguous,
+      FileError::kAccessDenied, FileError::kNotFound,     FileError::kBadName};
+  EXPECT_EQ(fs_.DeleteAll({"T:\\arc\\one", "T:\\ARC\\one", "T:\\arc\\none", "T:\\arc\\two",
+                           "T:\\arc\\locked", "T:\\arc\\twice", "T:\\arc", "T:\\b\\a", "T:\\a?"}),
+            expected);
+  EXPECT_EQ(Names("T:\\arc\\one") + Names("T:\\arc\\two"), "");
+
+  // What it has seen of the folder does not outlive it.
+  host_.Put("Arc/TWO", "y");
+  EXPECT_EQ(fs_.Delete("T:\\arc\\two"), FileError::kNone);
+}
+
 TEST_F(WritingTest, DeleteAndRemoveFolderKeepToTheirKind) {
   host_.Put("Arc/a", "x");
   stdfs::create_directory_symlink("Arc", host_ / "link");
