@@ -181,6 +181,18 @@ constexpr TableMessage kOwnMessages[] = {
     {kOldNotMoved, "~1 could not be moved out of it: ~2"},
     {kOldNotDeleted, "~1 could not be deleted: ~2"},
 
+    {kNotAllCopied,
+     "Warning: not everything could be put in folder ~1. These files could not be copied, and "
+     "nothing of their savegames has been deleted:"},
+    {kMovedNotDeleted,
+     "Warning: these files have been copied, but they could not be deleted or changed meanwhile. "
+     "They are still where they were:"},
+    {kTargetSetAside,
+     "In folder ~1 there were other files with the names of the copies. They have been moved in ~2 "
+     "and nothing of them was lost."},
+    {kTargetNotDeleted, "Warning: these savegames, which were there before, could not be deleted:"},
+    {kNotAllRemoved, "Warning: these files could not be deleted and are still there:"},
+
     {kNothingOpens, "No program could be started that opens the file ~1"},
     {kFailureLine, "~2: ~1"},
     {kMoreFailures, "... and ~1 more"},

@@ -98,6 +98,13 @@ enum OwnMessage : int {
   kOldNotMoved,            // reason, ~1 file, ~2 reason
   kOldNotDeleted,          // reason, ~1 file, ~2 reason
 
+  // Copy, move and delete
+  kNotAllCopied,      // ~1 folder; followed by failure lines
+  kMovedNotDeleted,   // followed by failure lines
+  kTargetSetAside,    // ~1 folder, ~2 new folder
+  kTargetNotDeleted,  // followed by failure lines
+  kNotAllRemoved,     // followed by failure lines
+
   // Everywhere
   kNothingOpens,  // ~1 file
   kFailureLine,   // ~1 reason, ~2 path

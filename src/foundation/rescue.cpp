@@ -25,10 +25,8 @@ FileError MakeRescueFolder(Program& program, std::string& folder) {
 
 // Moves one file: by renaming it, or, where that cannot be done, by a verified and flushed copy.
 FileError Move(FileSystem& files, const std::string& from, const std::string& to) {
-  if (files.Rename(from, to, RenameMode::kRefuseExisting) == FileError::kNone) {
-    return FileError::kNone;
-  }
-  FileError error = FileError::kNone;
+  FileError error = files.Rename(from, to, RenameMode::kRefuseExisting);
+  if (error == FileError::kNone || error == FileError::kAlreadyExists) return error;
   if (!CopyFileReplacing(files, from, to, &error)) return error;
   error = files.Flush({to});
   return error == FileError::kNone ? files.Delete(from) : error;
@@ -50,6 +48,20 @@ Rescue SetAside(Program& program, const std::vector<std::string>& paths) {
     if (error != FileError::kNone) rescue.failures.push_back({path, error});
   }
   return rescue;
+}
+
+bool SetAsideToo(Program& program, const std::string& path, Rescue& rescue) {
+  FileError error = FileError::kNone;
+  if (rescue.folder.empty()) {
+    std::string folder;
+    error = MakeRescueFolder(program, folder);
+    if (error == FileError::kNone) rescue.folder = folder;
+  }
+  if (error == FileError::kNone) {
+    error = Move(program.files, path, InFolder(rescue.folder, FileNameOf(path)));
+  }
+  if (error != FileError::kNone) rescue.failures.push_back({path, error});
+  return error == FileError::kNone;
 }
 
 }  // namespace vellumark

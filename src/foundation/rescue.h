@@ -20,6 +20,10 @@ struct Rescue {
 // They keep their names, so the folder is an ordinary slot folder.
 Rescue SetAside(Program& program, const std::vector<std::string>& paths);
 
+// Moves one more file into the folder of `rescue`, which it makes for the first file. A name that
+// is there already stays. False on failure, which `rescue` then names.
+bool SetAsideToo(Program& program, const std::string& path, Rescue& rescue);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_FOUNDATION_RESCUE_H_

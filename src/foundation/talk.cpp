@@ -25,4 +25,8 @@ bool AskYesNo(Program& program, const std::string& text, BoxIcon icon) {
   return Show(program, text, BoxButtons::kYesNo, icon) == BoxAnswer::kYes;
 }
 
+bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon) {
+  return Show(program, text, BoxButtons::kOkCancel, icon) == BoxAnswer::kOk;
+}
+
 }  // namespace vellumark

@@ -20,6 +20,9 @@ void Tell(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNo
 // Asks with Yes and No, Yes being the default. True for Yes.
 bool AskYesNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
 
+// Asks with OK and Cancel, OK being the default. True for OK.
+bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_FOUNDATION_TALK_H_

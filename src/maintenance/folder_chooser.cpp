@@ -11,6 +11,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "game/restore.h"
+#include "maintenance/copy_move.h"
 #include "maintenance/export_shots.h"
 #include "program.h"
 
@@ -79,8 +80,8 @@ std::string WithoutDoubleBackslashes(std::string path) {
   return path;
 }
 
-// What the folder is wanted for.
-void UseChosenFolder(Program& program) {
+// What the folder is wanted for. False when the user thinks better of it.
+bool UseChosenFolder(Program& program) {
   FolderChooserState& chooser = program.chooser;
   switch (chooser.FolderChooserMode) {
     case ChooserMode::kMainFolder:
@@ -95,15 +96,18 @@ void UseChosenFolder(Program& program) {
       chooser.field = chooser.ChosenFolder;
       program.archive.ArchiveChanged = true;
       break;
-    case ChooserMode::kPlain:
     case ChooserMode::kCopy:
+      return CopyOrMoveInto(program, chooser.ChosenFolder, CopyMode::kCopy);
     case ChooserMode::kMove:
-      break;
+      return CopyOrMoveInto(program, chooser.ChosenFolder, CopyMode::kMove);
     case ChooserMode::kExportShots:
       ExportLinkedShots(program, chooser.ChosenFolder);
       program.preferences.ShotFolder = chooser.ChosenFolder;
       break;
+    case ChooserMode::kPlain:
+      break;
   }
+  return true;
 }
 
 }  // namespace
@@ -193,7 +197,7 @@ bool TakeFolder(Program& program, const std::string& folder) {
 
   const bool root = folder.size() < 4;
   program.chooser.ChosenFolder = root ? folder.substr(0, folder.find('\\')) : folder;
-  UseChosenFolder(program);
+  if (!UseChosenFolder(program)) return false;
   program.chooser.Confirmed = true;
   return true;
 }

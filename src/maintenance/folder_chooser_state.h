@@ -4,6 +4,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "savegames/savegame_files.h"
 
 namespace vellumark {
 
@@ -26,6 +29,9 @@ struct FolderChooserState {
   // The text of the opener's field that the chooser fills: the archive properties dialog's main
   // folder or game folder, where it also starts, or the reorder dialog's main folder.
   std::string field;
+
+  // The savegames to copy or move, as they were selected when the command started.
+  std::vector<SavegameFiles> savegames;
 };
 
 }  // namespace vellumark

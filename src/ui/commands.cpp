@@ -7,6 +7,8 @@
 #include "game/import.h"
 #include "game/play.h"
 #include "game/running_game.h"
+#include "maintenance/copy_move.h"
+#include "maintenance/delete_selected.h"
 #include "program.h"
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
@@ -35,9 +37,9 @@ constexpr Command kCommands[] = {
     {"mnu_Savegames", "mnu_Examine", "Pul_Play", "Ctrl+P", PlaySelectedSavegames},
     {"mnu_Savegames", "mnu_PropSavegame", "Pul_CambiaProp", "F2", ShowSavegameProperties},
     {"mnu_Savegames", "-", nullptr, "", nullptr},
-    {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", nullptr},
-    {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", nullptr},
-    {"mnu_Savegames", "mnu_Delete", nullptr, "Del", nullptr},
+    {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", CopySelection},
+    {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", MoveSelection},
+    {"mnu_Savegames", "mnu_Delete", nullptr, "Del", DeleteSelectedSavegames},
 
     {"mnu_Tools", "mnu_Reorder", nullptr, "", Show<WindowId::kDialogRiordina>},
     {"mnu_Tools", "mnu_Scansione", nullptr, "F5", RescanCommand},

@@ -102,6 +102,15 @@ void Principale::BuildMenus() {
   }
 }
 
+// What can be done with the selected savegames; the right mouse button or the Menu key shows it.
+void Principale::BuildContextMenu() {
+  for (const char* name :
+       {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete"}) {
+    list_->addAction(findChild<QAction*>(QLatin1String(name)));
+  }
+  list_->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
 void Principale::BuildCentre() {
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
@@ -109,6 +118,7 @@ void Principale::BuildCentre() {
   splitter->setChildrenCollapsible(false);
   list_ = Named(new SavegameList(splitter), "List1");
   list_->setMinimumWidth(320);
+  BuildContextMenu();
   splitter->addWidget(list_);
   splitter->addWidget(BuildDetails());
   splitter->setStretchFactor(0, 1);

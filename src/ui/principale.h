@@ -61,6 +61,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
 
  private:
   void BuildMenus();
+  void BuildContextMenu();
   void BuildCentre();
   QWidget* BuildDetails();
   QWidget* BuildPathLine();

@@ -62,6 +62,7 @@ class FolderChooserDialogTest : public QObject {
   void ANewFolderIsMadeFromTheNameField();
   void FoldersThatCannotBeEnteredAreNot();
   void TenThousandFoldersAreListedOnce();
+  void CancellingACopyLeavesTheChooserOpen();
 
  private:
   // Opens the chooser; `act` is done in it, and it is cancelled if it is open then.
@@ -284,6 +285,23 @@ void FolderChooserDialogTest::TenThousandFoldersAreListedOnce() {
     Press(Qt::Key_Return);
     QCOMPARE(Path(), QStringLiteral("T:\\Archive\\Slot9999"));
     QCOMPARE(desktop_->files.calls(), 2);
+  });
+}
+
+void FolderChooserDialogTest::CancellingACopyLeavesTheChooserOpen() {
+  auto& boxes = desktop_->world.boxes;
+  const std::size_t before = boxes.shown.size();
+  InChooser(ChooserMode::kCopy, {}, [&] {
+    desktop_->program.chooser.savegames = {{.slot = 3}, {.slot = 3}};
+    const QString path = Path();
+    boxes.answers = {BoxAnswer::kCancel};
+    Click("OKButton");
+    QVERIFY(dialog_->isVisible() && !desktop_->program.chooser.Confirmed);
+    QCOMPARE(Path(), path);
+    QCOMPARE(boxes.shown.size(), before + 1);
+    boxes.answers = {BoxAnswer::kOk, BoxAnswer::kYes};
+    Click("OKButton");
+    QVERIFY(!dialog_->isVisible() && desktop_->program.chooser.Confirmed);
   });
 }
 

@@ -34,8 +34,10 @@ class PrincipaleTest : public QObject {
   void AccessKeysDoNotClash();
   void TabFollowsTheReadingOrder();
   void EveryControlCanBeTold();
-  void CommandsThatAreNotBuiltAreDisabled();
+  void EveryCommandIsEnabled();
   void KeysChangeTheDetailsAsClicksDo();
+  void TheContextMenuHasTheSavegameCommands();
+  void DelAsksAndDeletesTheSelection();
   void ARowShowsControlCharactersAsMarksOrBlanks();
   void RescanKeepsNothingOfTheOldList();
   void TheViewerShowsThePictureOfItsOpening();
@@ -164,15 +166,12 @@ void PrincipaleTest::EveryControlCanBeTold() {
   QCOMPARE(FieldText("Text_TotCartelle"), QStringLiteral("1"));
 }
 
-void PrincipaleTest::CommandsThatAreNotBuiltAreDisabled() {
+void PrincipaleTest::EveryCommandIsEnabled() {
   Start();
-  for (const char* name : {"mnu_Copy", "mnu_Move", "mnu_Delete", "mnu_Reorder"}) {
-    QVERIFY2(!Find<QAction>(name)->isEnabled(), name);
-  }
   for (const char* name :
-       {"mnu_New", "mnu_Load", "mnu_Save", "mnu_SaveAs", "mnu_Exit", "mnu_Archivia", "mnu_Examine",
-        "mnu_Scansione", "mnu_Find", "mnu_PropSavegame", "mnu_PrefArchive", "mnu_PrefManager",
-        "mnu_ShowHelp"}) {
+       {"mnu_New", "mnu_Load", "mnu_Save", "mnu_SaveAs", "mnu_Exit", "mnu_Archivia", "mnu_Find",
+        "mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete", "mnu_Reorder",
+        "mnu_Scansione", "mnu_PrefArchive", "mnu_PrefManager", "mnu_ShowHelp"}) {
     QVERIFY2(Find<QAction>(name)->isEnabled(), name);
   }
   for (const char* name : {"Pul_Zoom", "Pul_CambiaProp", "Pul_Cerca", "Pul_Precedente",
@@ -216,6 +215,55 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, line(2));
   QCOMPARE(program_->selection.Count(), std::int16_t{0});
   QCOMPARE(FieldText("Text_PathSavegame"), QString());
+}
+
+void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
+  Start();
+  auto* list = Find<SavegameList>("List1");
+  QStringList names;
+  const auto look = [&names] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return;
+    for (const QAction* action : menu->actions()) names.append(action->objectName());
+    menu->close();
+  };
+  const QStringList expected = {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move",
+                                "mnu_Delete"};
+
+  // Another line by the mouse: it is selected first. Several: they stay selected.
+  const QPoint second = list->visualRect(list->model()->index(1, 0)).center();
+  const auto right_click = [&](QPoint at) {
+    names.clear();
+    QTimer::singleShot(50, this, look);
+    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, at);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, list->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(list->viewport(), &event);
+  };
+  right_click(second);
+  QCOMPARE(names, expected);
+  QCOMPARE(program_->selection.indices, std::vector<std::int16_t>{1});
+  QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+  right_click(second);
+  QCOMPARE(program_->selection.Count(), std::int16_t{3});
+
+  names.clear();
+  QTimer::singleShot(50, this, look);
+  QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, second, list->mapToGlobal(second));
+  QApplication::sendEvent(list, &menu_key);
+  QCOMPARE(names, expected);
+}
+
+void PrincipaleTest::DelAsksAndDeletesTheSelection() {
+  Start();
+  window_->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+  auto* list = Find<SavegameList>("List1");
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
+  world_->boxes.answers = {BoxAnswer::kYes};
+  QTest::keyClick(list, Qt::Key_Delete);
+  QCOMPARE(world_->disk.Names("Archive/Slot1"), std::vector<std::string>{"savegame.0"});
+  QCOMPARE(list->model()->rowCount(), 1);
 }
 
 void PrincipaleTest::ARowShowsControlCharactersAsMarksOrBlanks() {
