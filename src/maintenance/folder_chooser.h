@@ -35,9 +35,9 @@ FolderLines ChangeDrive(Program& program, char letter, const std::string& folder
 std::optional<std::string> CreateSubfolder(Program& program, const std::string& folder,
                                            const EncodedText& name);
 
-// OK: stores the folder as ChosenFolder and does what it is wanted for. False when the chooser is to
-// stay open: the folder cannot be taken, which the user was told, or the user cancels the copy or
-// move before it begins; nothing but ChosenFolder has changed then.
+// OK: stores the folder as ChosenFolder and does what it is wanted for. False when the chooser is
+// to stay open: the folder cannot be taken, which the user was told, or the user cancels the copy
+// or move before it begins; nothing but ChosenFolder has changed then.
 bool TakeFolder(Program& program, const std::string& folder);
 
 }  // namespace vellumark
