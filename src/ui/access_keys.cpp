@@ -81,6 +81,11 @@ constexpr AccessKey kRiordinaKeys[] = {
     {"Pul_Annulla", 'C'},
 };
 
+constexpr AccessKey kCatturaKeys[] = {
+    {"Label1", 'L'}, {"Frame2", 'N'},      {"Pul_SalvaScreenShot", 'S'},
+    {"Pul_Ok", 'O'}, {"Pul_Annulla", 'C'},
+};
+
 std::span<const AccessKey> KeysOf(WindowId window) {
   switch (window) {
     case WindowId::kPrincipale:
@@ -93,6 +98,8 @@ std::span<const AccessKey> KeysOf(WindowId window) {
       return kCercaKeys;
     case WindowId::kDialogNote:
       return kNoteKeys;
+    case WindowId::kDialogCattura:
+      return kCatturaKeys;
     case WindowId::kDialogGetDir:
       return kGetDirKeys;
     case WindowId::kDialogRiordina:

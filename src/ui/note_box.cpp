@@ -18,6 +18,12 @@ void NoteBox::ShowNote(const std::string& stored) {
   setPlainText(ToDisplayText(text_, NoteForTextBox(stored)));
 }
 
+void NoteBox::ShowStoredNote(const std::string& stored) {
+  QString shown = ToQString(text_, NoteForTextBox(stored));
+  shown.replace(u'\r', QChar(kStoredLineBreak & 0xFF));
+  setPlainText(shown);
+}
+
 std::optional<TypedNote> NoteBox::ChangedNote() const {
   if (!document()->isModified()) return std::nullopt;
   return NoteFromTextBox(text_, Lines().toStdString());

@@ -19,6 +19,9 @@ class NoteBox final : public QPlainTextEdit {
   // Shows a note in its stored form.
   void ShowNote(const std::string& stored);
 
+  // The same, with the bytes that break its lines shown as they are, beside their line feeds.
+  void ShowStoredNote(const std::string& stored);
+
   // The note as the user has made it; nothing while it is as it was shown.
   std::optional<TypedNote> ChangedNote() const;
 

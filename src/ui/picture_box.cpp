@@ -15,13 +15,18 @@ constexpr QSize kLeastSize(240, 180);
 PictureBox::PictureBox(FileSystem& files, QWidget* parent) : QWidget(parent), files_(files) {}
 
 void PictureBox::ShowFile(const std::string& path) {
-  picture_ = {};
-  scaled_ = {};
+  QImage image;
   if (!path.empty()) {
     const ReadResult read = files_.Read(path, FileSystem::kWholeFile);
-    picture_.loadFromData(reinterpret_cast<const uchar*>(read.bytes.data()),
-                          static_cast<int>(read.bytes.size()));
+    image.loadFromData(reinterpret_cast<const uchar*>(read.bytes.data()),
+                       static_cast<int>(read.bytes.size()));
   }
+  ShowImage(image);
+}
+
+void PictureBox::ShowImage(const QImage& image) {
+  picture_ = image;
+  scaled_ = {};
   update();
 }
 

@@ -20,6 +20,8 @@ class PictureBox : public QWidget {
   // Shows the picture of a file; an empty path, or a file that is no readable picture, shows none.
   void ShowFile(const std::string& path);
 
+  void ShowImage(const QImage& image);
+
   const QImage& Picture() const { return picture_; }
 
  protected:

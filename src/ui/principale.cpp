@@ -24,6 +24,7 @@
 #include "savegames/details.h"
 #include "savegames/list_line.h"
 #include "ui/caption_setter.h"
+#include "ui/capture_dialog.h"
 #include "ui/commands.h"
 #include "ui/controls.h"
 #include "ui/modal_dialog.h"
@@ -314,11 +315,23 @@ void Principale::ShowModal(WindowId dialog) {
   window->exec();
 }
 
-void Principale::ShowModeless(WindowId /*dialog*/) {}
+void Principale::ShowModeless(WindowId dialog) {
+  if (dialog != WindowId::kDialogCattura || IsOpen(dialog)) return;
+  auto* window = new CaptureDialog(*program_);
+  open_dialogs_[dialog] = window;
+  window->ImpostaValori();
+  window->Appear();
+}
 
 void Principale::CloseDialog(WindowId window) {
   if (window == WindowId::kDialogScreenShot && viewer_ != nullptr) viewer_->close();
-  if (QDialog* dialog = open_dialogs_[window]) dialog->reject();
+  if (IsOpen(window)) open_dialogs_[window]->reject();
+}
+
+// A dialog that has closed may take a moment until it is gone.
+bool Principale::IsOpen(WindowId dialog) {
+  const QPointer<QDialog>& window = open_dialogs_[dialog];
+  return window != nullptr && window->isVisible();
 }
 
 void Principale::closeEvent(QCloseEvent* event) {

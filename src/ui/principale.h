@@ -70,6 +70,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void NameControlsWithoutCaption();
   void Connect(const Command& command);
   void Run(const Command& command);
+  bool IsOpen(WindowId dialog);
 
   FileSystem& files_;
   const Text& text_;

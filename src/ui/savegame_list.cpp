@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/column_font.h"
 #include "ui/savegame_list_model.h"
 
 namespace vellumark {
@@ -28,14 +29,6 @@ class LineDelegate final : public QStyledItemDelegate {
  private:
   const SavegameListModel& lines_;
 };
-
-QFont ColumnFont() {
-  QFont font(QStringLiteral("Courier"));
-  font.setStyleHint(QFont::TypeWriter);
-  font.setFixedPitch(true);
-  font.setPointSizeF(9.75);
-  return font;
-}
 
 }  // namespace
 
