@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "foundation/failures.h"
@@ -33,11 +34,11 @@ void Refuse(Program& program, int message) {
 
 class Linker {
  public:
-  Linker(Program& program, const std::string& note)
+  Linker(Program& program, std::string note)
       : program_(program),
         slot_(program.capture.SelectedSlot),
         folder_(Trimmed(program.archive.settings.GameFolder)),
-        note_(note),
+        note_(std::move(note)),
         archived_(ExaminedEntry(program, slot_)) {}
 
   LinkAnswer Link() {

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "foundation/messages.h"
@@ -29,13 +30,15 @@ namespace vellumark {
 namespace {
 
 constexpr int kNoteCaption = 102;
+// What a window manager's frame takes of a small screen.
+constexpr QSize kFrameRoom(16, 40);
 
 // A picture keeps its proportions within a place that is 4:3 at first; it is never blown up.
 class CapturedPicture final : public PictureBox {
  public:
   using PictureBox::PictureBox;
 
-  QSize sizeHint() const override { return {480, 360}; }
+  QSize sizeHint() const override { return {560, 420}; }
   QSize minimumSizeHint() const override { return {320, 240}; }
 
  protected:
@@ -69,7 +72,7 @@ CaptureDialog::CaptureDialog(Program& program)
 
   connect(slots_, &SlotList::Chosen, this, [this](int line) { ChooseSlot(program_, line); });
   connect(save_, &QPushButton::clicked, this, &CaptureDialog::SaveElsewhere);
-  connect(ok_, &QPushButton::clicked, this, &CaptureDialog::Accept);
+  connect(ok_, &QPushButton::clicked, this, &CaptureDialog::Link);
   connect(cancel_, &QPushButton::clicked, this, &CaptureDialog::Cancel);
   connect(this, &QDialog::finished, this, [this] {
     EndCapture(program_);
@@ -94,13 +97,17 @@ void CaptureDialog::BuildLayout() {
   row->addLayout(fields);
 
   auto* buttons = new QDialogButtonBox(this);
-  buttons->addButton(save_, QDialogButtonBox::ActionRole);
   buttons->addButton(ok_, QDialogButtonBox::AcceptRole);
   buttons->addButton(cancel_, QDialogButtonBox::RejectRole);
 
+  auto* bottom = new QHBoxLayout;
+  bottom->addWidget(save_);
+  bottom->addStretch(1);
+  bottom->addWidget(buttons);
+
   auto* column = new QVBoxLayout(this);
   column->addLayout(row, 1);
-  column->addWidget(buttons);
+  column->addLayout(bottom);
 
   SetTabSequence({slots_, note_, save_, ok_, cancel_});
 }
@@ -122,6 +129,10 @@ void CaptureDialog::ShowSlots() {
 }
 
 void CaptureDialog::Appear() {
+  // Left to itself, a window takes no more than two thirds of a small screen.
+  if (!testAttribute(Qt::WA_Resized)) {
+    resize(sizeHint().boundedTo(screen()->availableGeometry().size() - kFrameRoom));
+  }
   show();
   raise();
   activateWindow();
@@ -156,7 +167,7 @@ TypedNote CaptureDialog::Note() const {
   return note_->ChangedNote().value_or(TypedNote{.stored = shown_note_});
 }
 
-void CaptureDialog::Accept() {
+void CaptureDialog::Link() {
   const AskingScope asking(*this);
   const TypedNote note = Note();
   switch (LinkCapture(program_, note)) {

@@ -38,7 +38,7 @@ class CaptureDialog final : public QDialog {
   void ShowSlots();
   void FollowOpener();
   TypedNote Note() const;
-  void Accept();
+  void Link();
   void Cancel();
   void SaveElsewhere();
 

@@ -14,7 +14,6 @@
 namespace vellumark {
 namespace {
 
-using testing::SavegameBytes;
 using testing::TestWorld;
 
 // An archive of two savegames, a game folder with slots 0, 2 and 3, and an armed capture.
@@ -32,6 +31,9 @@ class CaptureTest : public ::testing::Test {
     ScanArchive(program);
     Forget();
   }
+
+  // The game's folder becomes the current one when the game is activated.
+  void TearDown() override { std::filesystem::current_path("/"); }
 
   // What was shown and heard so far.
   void Forget() {
