@@ -169,6 +169,10 @@ bool FillSlots(Program& program, const Indices& indices, const std::string& game
   const SelectedCopies copies =
       CopySelectedSavegames(program, indices, game_folder, true, CopyMode::kCopy);
   RememberPlaced(program, indices, copies.targets);
+  if (!copies.set_aside.empty()) {
+    report.Add(
+        LoadMessage(kGameSlotsSetAside, {Quoted(game_folder), Quoted(copies.rescue_folder)}));
+  }
   if (copies.not_copied.empty()) return true;
   report.Add(LoadMessage(kPlayNotCopied, {Quoted(game_folder)}) +
              DescribeFailures(copies.not_copied));
