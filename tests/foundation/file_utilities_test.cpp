@@ -135,10 +135,9 @@ TEST(OpenWithShellTest, UsesTheDocumentsFolderUnlessGivenOne) {
   TestWorld world;
   EXPECT_TRUE(
       OpenWithShell(world.files, world.text, world.shell, "T:\\game\\TOMB4.EXE", "", false, ""));
-  const std::string game = (world.disk.path() / "Game").string();
   ASSERT_EQ(world.shell.opened.size(), 1U);
-  EXPECT_EQ(world.shell.opened[0].document, game + "/tomb4.exe");
-  EXPECT_EQ(world.shell.opened[0].working_folder, game);
+  EXPECT_EQ(world.shell.opened[0].document, world.files.HostPath("T:\\Game\\tomb4.exe"));
+  EXPECT_EQ(world.shell.opened[0].working_folder, world.files.HostPath("T:\\Game"));
 }
 
 }  // namespace

@@ -65,7 +65,7 @@ TEST_F(StartUpTest, TheCommandLinesArchiveReplacesTheLastOne) {
 
   world.WritePreferences();
   EXPECT_EQ(Started("\"T:\\Other\\Tower.vmk\"").preferences.LastArchive, "T:\\Archive.vmk");
-  EXPECT_EQ(Started((world.disk.path() / "Other/Tower.vmk").string()).preferences.LastArchive,
+  EXPECT_EQ(Started(world.files.HostPath("T:\\Other\\Tower.vmk")).preferences.LastArchive,
             "T:\\Other\\Tower.vmk")
       << "a path of the host";
   EXPECT_EQ(Started("T:\\gone.vmk").preferences.LastArchive, "");
@@ -208,7 +208,7 @@ TEST_F(StartUpTest, CaptionsComeFirstAndTheOpeningSoundLast) {
   MainWindowLoaded(program);
   EXPECT_EQ(world.windows.events.size(), 9U);
   ASSERT_EQ(world.sounds.played.size(), 1U);
-  EXPECT_TRUE(world.sounds.played[0].ends_with("/Program/s7.wav"));
+  EXPECT_EQ(world.sounds.played[0], world.files.HostPath("T:\\Program\\s7.wav"));
 }
 
 TEST_F(StartUpTest, NoFailingCallStopsARunOrCostsAFile) {

@@ -38,7 +38,8 @@ class SearchTest : public ::testing::Test {
   // The files of the sounds since the last call; their numbers count from 1.
   std::string TakeSounds() {
     std::string names;
-    for (const std::string& path : world.sounds.played) names += path.substr(path.rfind('/') + 1);
+    for (const std::string& path : world.sounds.played)
+      names += path.substr(path.find_last_of("/\\") + 1);
     world.sounds.played.clear();
     return names;
   }

@@ -1,57 +1,54 @@
 #include "support/temporary_folder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+
+#include "support/host_paths.h"
+#include "support/test_drives.h"
 
 namespace vellumark::testing {
 
 namespace fs = std::filesystem;
 
-TemporaryFolder::TemporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "vellumark-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = name;
-}
+TemporaryFolder::TemporaryFolder() : path_(FromUtf8(MakeTemporaryFolder())) {}
 
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
-}
+TemporaryFolder::~TemporaryFolder() { RemoveTemporaryFolder(ToUtf8(path_)); }
 
 void TemporaryFolder::Write(const std::string& file, std::string_view bytes) const {
-  fs::create_directories((path_ / file).parent_path());
-  std::ofstream stream(path_ / file, std::ios::binary | std::ios::trunc);
+  fs::create_directories((path_ / FromUtf8(file)).parent_path());
+  std::ofstream stream(path_ / FromUtf8(file), std::ios::binary | std::ios::trunc);
   stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (!stream.flush()) throw std::runtime_error("cannot write " + file);
 }
 
 std::string TemporaryFolder::Read(const std::string& file) const {
-  std::ifstream stream(path_ / file, std::ios::binary);
+  std::ifstream stream(path_ / FromUtf8(file), std::ios::binary);
   if (!stream) throw std::runtime_error("cannot read " + file);
   std::ostringstream bytes;
   bytes << stream.rdbuf();
   return bytes.str();
 }
 
-bool TemporaryFolder::Exists(const std::string& file) const { return fs::exists(path_ / file); }
+bool TemporaryFolder::Exists(const std::string& file) const {
+  return fs::exists(path_ / FromUtf8(file));
+}
 
 void TemporaryFolder::MakeFolder(const std::string& folder) const {
-  fs::create_directories(path_ / folder);
+  fs::create_directories(path_ / FromUtf8(folder));
 }
 
 void TemporaryFolder::MakeReadOnly(const std::string& file) const {
-  fs::permissions(path_ / file,
+  fs::permissions(path_ / FromUtf8(file),
                   fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                   fs::perm_options::remove);
 }
 
 std::vector<std::string> TemporaryFolder::Names(const std::string& folder) const {
   std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(path_ / folder)) {
-    names.push_back(entry.path().filename().string());
+  for (const auto& entry : fs::directory_iterator(path_ / FromUtf8(folder))) {
+    names.push_back(ToUtf8(entry.path().filename()));
   }
   std::sort(names.begin(), names.end());
   return names;
@@ -61,7 +58,7 @@ std::map<std::string, std::string> TemporaryFolder::AllFiles() const {
   std::map<std::string, std::string> files;
   for (const auto& entry : fs::recursive_directory_iterator(path_)) {
     if (!entry.is_regular_file()) continue;
-    const std::string name = entry.path().lexically_relative(path_).string();
+    const std::string name = ToUtf8(entry.path().lexically_relative(path_));
     files[name] = Read(name);
   }
   return files;

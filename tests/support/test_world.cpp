@@ -17,7 +17,7 @@ std::string SavegameBytes(const std::string& level, std::int16_t counter, int se
   return bytes;
 }
 
-TestWorld::TestWorld() : real_files(text, {{{'T', disk.path().string()}}}), files(real_files) {
+TestWorld::TestWorld() : drives(text, {{'T', disk.path().string()}}), files(drives.files()) {
   disk.MakeFolder("Program");
   disk.MakeFolder("Game");
   disk.MakeFolder("Archive");

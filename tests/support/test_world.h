@@ -7,12 +7,12 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/posix/code_page_text.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/common/code_page_text.h"
 #include "program.h"
 #include "support/faulty_file_system.h"
 #include "support/scripted_desktop.h"
 #include "support/temporary_folder.h"
+#include "support/test_drives.h"
 
 namespace vellumark::testing {
 
@@ -40,7 +40,7 @@ class TestWorld {
 
   TemporaryFolder disk;
   CodePageText text{1252, "en", false};
-  PosixFileSystem real_files;
+  TestDrives drives;
   FaultyFileSystem files;
   ScriptedMessageBoxes boxes;
   ScriptedFileDialogs dialogs;

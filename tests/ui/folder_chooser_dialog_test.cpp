@@ -30,9 +30,9 @@ struct FolderChooserDesktop {
   ~FolderChooserDesktop() { std::filesystem::current_path("/"); }
 
   testing::TestWorld world;
-  PosixFileSystem real_files{world.text,
-                             {{{'N', "/nonexistent"}, {'T', world.disk.path().string()}}}};
-  testing::FaultyFileSystem files{real_files};
+  testing::TestDrives drives{world.text,
+                             {{'N', "/nonexistent"}, {'T', world.disk.path().string()}}};
+  testing::FaultyFileSystem files{drives.files()};
   Principale window{files, world.text};
   Program program{.files = files,
                   .text = world.text,

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "platform/common/host_names.h"
+#include "platform/common/windows_path.h"
 #include "platform/posix/drive_map.h"
-#include "platform/posix/host_names.h"
-#include "platform/posix/windows_path.h"
 
 namespace vellumark {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "platform/posix/host_names.h"
+#include "platform/common/host_names.h"
 
 namespace vellumark {
 

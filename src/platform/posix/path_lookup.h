@@ -8,11 +8,11 @@
 #include <string>
 #include <unordered_map>
 
+#include "platform/common/host_names.h"
+#include "platform/common/windows_path.h"
 #include "platform/file_system.h"
 #include "platform/posix/drive_map.h"
-#include "platform/posix/host_names.h"
 #include "platform/posix/name_variants.h"
-#include "platform/posix/windows_path.h"
 
 namespace vellumark {
 

@@ -10,12 +10,12 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/common/host_names.h"
+#include "platform/common/windows_path.h"
 #include "platform/file_system.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/host_directory.h"
-#include "platform/posix/host_names.h"
 #include "platform/posix/path_lookup.h"
-#include "platform/posix/windows_path.h"
 #include "platform/text.h"
 
 namespace vellumark {

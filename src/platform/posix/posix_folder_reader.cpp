@@ -6,23 +6,16 @@
 #include <algorithm>
 #include <cerrno>
 #include <functional>
-#include <tuple>
 #include <utility>
 
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/file_error.h"
-#include "platform/posix/wildcard.h"
 
 namespace vellumark {
 namespace {
 
-struct Kind {
-  bool folder = false;
-  bool plain = false;
-};
-
 // Most file systems tell the kind together with the name; only a link has to be followed.
-Kind KindOf(const dirent& entry, int folder) {
+EntryKind KindOf(const dirent& entry, int folder) {
   if (entry.d_type == DT_REG) return {false, true};
   if (entry.d_type == DT_DIR) return {true, false};
   if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return {};
@@ -32,75 +25,18 @@ Kind KindOf(const dirent& entry, int folder) {
   return {S_ISDIR(status.st_mode), S_ISREG(status.st_mode)};
 }
 
-struct Row {
-  std::string folded;
-  FolderEntry entry;
-  std::string host;
-};
-
-bool ComesBefore(const Row* a, const Row* b) {
-  return std::tie(a->folded, a->entry.name, a->host) < std::tie(b->folded, b->entry.name, b->host);
-}
-
-UnusableName Unusable(std::string_view host, NameUse use, bool folder) {
-  UnusableName name;
-  name.shown = ShownName(host);
-  name.reason = use == NameUse::kNotInCodePage ? UnusableName::Reason::kNotInCodePage
-                                               : UnusableName::Reason::kNotAWindowsName;
-  name.folder = folder;
-  return name;
-}
-
 }  // namespace
 
 FolderContents ListDirectory(Directory* directory, const PathNames& names,
                              std::string_view pattern) {
-  FolderContents contents;
-  const bool everything = pattern == "*" || pattern == "*.*";
-  const std::string wanted = names.Fold(pattern);
-  std::vector<Row> rows;
-  rows.reserve(64);
-
+  ListingBuilder builder(names, pattern);
   while (const dirent* entry = directory->Next()) {
-    CoreName name = names.FromHost(entry->d_name);
-    std::string folded = names.Fold(name.bytes);
-    if (!everything && !MatchesWildcard(folded, wanted)) continue;
+    builder.Offer(entry->d_name, [&] { return KindOf(*entry, directory->descriptor()); });
+  }
+  if (directory->error() == 0) return builder.Finish();
 
-    const Kind kind = KindOf(*entry, directory->descriptor());
-    if (name.use != NameUse::kUsable) {
-      contents.listing.unusable.push_back(Unusable(entry->d_name, name.use, kind.folder));
-    } else {
-      Row& row = rows.emplace_back();
-      row.folded = std::move(folded);
-      row.entry.name = std::move(name.bytes);
-      row.entry.folder = kind.folder;
-      row.entry.plain = kind.plain;
-      row.host = entry->d_name;
-    }
-  }
-  if (directory->error() != 0) {
-    contents.listing = {FileErrorFromNumber(directory->error()), {}, {}};
-    return contents;
-  }
-
-  std::vector<Row*> sorted;  // rows are dear to move
-  sorted.reserve(rows.size());
-  for (Row& row : rows) sorted.push_back(&row);
-  std::sort(sorted.begin(), sorted.end(), ComesBefore);
-  for (std::size_t i = 1; i < sorted.size(); ++i) {
-    if (sorted[i - 1]->folded != sorted[i]->folded) continue;
-    sorted[i - 1]->entry.ambiguous = true;
-    sorted[i]->entry.ambiguous = true;
-  }
-
-  contents.listing.entries.reserve(rows.size());
-  contents.host_names.reserve(rows.size());
-  for (Row* row : sorted) {
-    contents.listing.entries.push_back(std::move(row->entry));
-    contents.host_names.push_back(std::move(row->host));
-  }
-  std::sort(contents.listing.unusable.begin(), contents.listing.unusable.end(),
-            [](const UnusableName& a, const UnusableName& b) { return a.shown < b.shown; });
+  FolderContents contents;
+  contents.listing.error = FileErrorFromNumber(directory->error());
   return contents;
 }
 

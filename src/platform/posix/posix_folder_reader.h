@@ -9,19 +9,14 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/common/host_names.h"
+#include "platform/common/listing_builder.h"
 #include "platform/file_system.h"
 #include "platform/posix/host_directory.h"
-#include "platform/posix/host_names.h"
 
 namespace vellumark {
 
-struct FolderContents {
-  Listing listing;
-  std::vector<std::string> host_names;  // of the entries, in their order
-};
-
-// The names of an open folder that match `pattern`, in alphabetical order. An unusable name is
-// matched by what the code page can show of it.
+// The names of an open folder that match `pattern`, in alphabetical order.
 FolderContents ListDirectory(Directory* directory, const PathNames& names,
                              std::string_view pattern);
 

@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "platform/common/code_page_text.h"
 #include "platform/posix/code_page_choice.h"
-#include "platform/posix/code_page_text.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_file_system.h"
 

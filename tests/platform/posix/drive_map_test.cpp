@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "platform/posix/host_folder.h"
+#include "support/host_folder.h"
 
 namespace vellumark {
 namespace {

@@ -10,9 +10,9 @@
 #include <string>
 #include <thread>
 
-#include "platform/posix/code_page_text.h"
-#include "platform/posix/host_folder.h"
-#include "platform/posix/host_names.h"
+#include "platform/common/code_page_text.h"
+#include "platform/common/host_names.h"
+#include "support/host_folder.h"
 
 namespace vellumark {
 namespace {
@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 // Longer than the tick of the clock that stamps folders.
 void WaitForTheNextTick() { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }
 
-class VariantFinderTest : public testing::Test {
+class VariantFinderTest : public ::testing::Test {
  protected:
   std::string First(const std::string& name) { return finder_.Find(folder_.path(), name).first; }
   std::size_t Count(const std::string& name) { return finder_.Find(folder_.path(), name).count; }

@@ -1,4 +1,4 @@
-#include "platform/posix/wildcard.h"
+#include "platform/common/wildcard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/posix/code_page_tables.h"
+#include "platform/common/code_page_tables.h"
 
 #include <algorithm>
 #include <array>

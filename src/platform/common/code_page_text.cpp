@@ -1,11 +1,11 @@
-#include "platform/posix/code_page_text.h"
+#include "platform/common/code_page_text.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <unordered_set>
 
-#include "platform/posix/code_page_tables.h"
+#include "platform/common/code_page_tables.h"
 
 namespace vellumark {
 namespace {

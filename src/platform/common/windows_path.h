@@ -1,6 +1,6 @@
 // Paths as the core writes them, taken apart. Nothing here looks at the disk.
-#ifndef VELLUMARK_PLATFORM_POSIX_WINDOWS_PATH_H_
-#define VELLUMARK_PLATFORM_POSIX_WINDOWS_PATH_H_
+#ifndef VELLUMARK_PLATFORM_COMMON_WINDOWS_PATH_H_
+#define VELLUMARK_PLATFORM_COMMON_WINDOWS_PATH_H_
 
 #include <optional>
 #include <string>
@@ -28,4 +28,4 @@ std::optional<WindowsPath> ParseWindowsPath(std::string_view path, const Windows
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_WINDOWS_PATH_H_
+#endif  // VELLUMARK_PLATFORM_COMMON_WINDOWS_PATH_H_

@@ -1,16 +1,12 @@
+#include "platform/common/code_page_text.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdlib>
-#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
-
-#include "platform/posix/code_page_choice.h"
-#include "platform/posix/code_page_text.h"
-#include "platform/system_services.h"
 
 namespace vellumark {
 namespace {
@@ -185,93 +181,6 @@ TEST(CodePageText, TurkishRulesHoldForTextAndNeverForPaths) {
 TEST(CodePageText, NamesOfDifferentLengthsAreNotEqual) {
   EXPECT_FALSE(MakeText(1252).EqualNoCase("save", "SAVES"));
   EXPECT_FALSE(MakeText(1252).EqualNoCase("", "a"));
-}
-
-TEST(CodePageText, TheSystemsTextFollowsTheEnvironment) {
-  const char* const before = std::getenv("LC_ALL");
-  const std::string saved = before == nullptr ? "" : before;
-
-  ASSERT_EQ(setenv("LC_ALL", "tr_TR.UTF-8", 1), 0);
-  const auto turkish = MakeSystemText();
-  ASSERT_EQ(setenv("LC_ALL", "ja_JP.UTF-8", 1), 0);
-  const auto japanese = MakeSystemText();
-  if (before == nullptr) {
-    unsetenv("LC_ALL");
-  } else {
-    setenv("LC_ALL", saved.c_str(), 1);
-  }
-
-  EXPECT_EQ(turkish->CodePage(), 1254);
-  EXPECT_FALSE(turkish->IsSubstitute());
-  EXPECT_EQ(Changed(*turkish, &Text::Upper, "i"), "İ");
-  EXPECT_EQ(japanese->CodePage(), 1252);
-  EXPECT_TRUE(japanese->IsSubstitute());
-}
-
-TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
-  struct Case {
-    std::string_view locale;
-    int code_page;
-    bool substitute;
-    std::string_view language;
-  };
-  const std::vector<Case> cases = {
-      {"", 1252, false, ""},
-      {"C", 1252, false, ""},
-      {"C.UTF-8", 1252, false, ""},
-      {"POSIX", 1252, false, ""},
-      {"de_DE.UTF-8@euro", 1252, false, "de"},
-      {"pl_PL.UTF-8", 1250, false, "pl"},
-      {"cs", 1250, false, "cs"},
-      {"hr_HR", 1250, false, "hr"},
-      {"hrx_BR", 1252, false, "hrx"},
-      {"h", 1252, false, "h"},
-      {"sr_RS", 1251, false, "sr"},
-      {"sr_RS@latin", 1250, false, "sr"},
-      {"sr_RS.UTF-8@latin", 1250, false, "sr"},
-      {"sr@latin", 1250, false, "sr"},
-      {"bs_BA.UTF-8", 1250, false, "bs"},
-      {"uz_UZ.UTF-8", 1252, false, "uz"},
-      {"uz_UZ.UTF-8@cyrillic", 1251, false, "uz"},
-      {"RU_RU.KOI8-R", 1251, false, "ru"},
-      {"el_GR", 1253, false, "el"},
-      {"tr_TR.UTF-8", 1254, false, "tr"},
-      {"he_IL", 1255, false, "he"},
-      {"fa_IR", 1256, false, "fa"},
-      {"lt_LT", 1257, false, "lt"},
-      {"vi_VN", 1258, false, "vi"},
-      {"th_TH", 874, false, "th"},
-      {"ja_JP.UTF-8", 1252, true, "ja"},
-      {"zh_TW", 1252, true, "zh"},
-  };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.locale);
-    const CodePageChoice choice = ChooseCodePage(each.locale);
-    EXPECT_EQ(choice.code_page, each.code_page);
-    EXPECT_EQ(choice.substitute, each.substitute);
-    EXPECT_EQ(choice.language, each.language);
-  }
-}
-
-TEST(CodePageChoice, TheFirstVariableThatIsNotEmptyNamesTheLocale) {
-  std::map<std::string, std::string> variables;
-  const auto locale_name = [&] {
-    return LocaleName([&](const char* name) -> const char* {
-      const auto found = variables.find(name);
-      return found == variables.end() ? nullptr : found->second.c_str();
-    });
-  };
-  EXPECT_EQ(locale_name(), "");
-
-  variables["LANG"] = "pl_PL";
-  variables["LC_ALL"] = "";
-  EXPECT_EQ(locale_name(), "pl_PL");
-
-  variables["LC_CTYPE"] = "el_GR";
-  EXPECT_EQ(locale_name(), "el_GR");
-
-  variables["LC_ALL"] = "C";
-  EXPECT_EQ(locale_name(), "C");
 }
 
 }  // namespace

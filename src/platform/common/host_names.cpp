@@ -1,4 +1,4 @@
-#include "platform/posix/host_names.h"
+#include "platform/common/host_names.h"
 
 #include <algorithm>
 #include <cstddef>

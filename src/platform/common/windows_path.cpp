@@ -1,9 +1,9 @@
-#include "platform/posix/windows_path.h"
+#include "platform/common/windows_path.h"
 
 #include <algorithm>
 #include <cstddef>
 
-#include "platform/posix/host_names.h"
+#include "platform/common/host_names.h"
 
 namespace vellumark {
 namespace {

@@ -1,6 +1,6 @@
 // `*` and `?` in file names, by the rule that players know from Windows.
-#ifndef VELLUMARK_PLATFORM_POSIX_WILDCARD_H_
-#define VELLUMARK_PLATFORM_POSIX_WILDCARD_H_
+#ifndef VELLUMARK_PLATFORM_COMMON_WILDCARD_H_
+#define VELLUMARK_PLATFORM_COMMON_WILDCARD_H_
 
 #include <string_view>
 
@@ -15,4 +15,4 @@ bool MatchesWildcard(std::string_view name, std::string_view pattern);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_WILDCARD_H_
+#endif  // VELLUMARK_PLATFORM_COMMON_WILDCARD_H_

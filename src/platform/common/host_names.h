@@ -1,6 +1,6 @@
 // Single file names: how the core spells them (code page) and how the disk does (UTF-8).
-#ifndef VELLUMARK_PLATFORM_POSIX_HOST_NAMES_H_
-#define VELLUMARK_PLATFORM_POSIX_HOST_NAMES_H_
+#ifndef VELLUMARK_PLATFORM_COMMON_HOST_NAMES_H_
+#define VELLUMARK_PLATFORM_COMMON_HOST_NAMES_H_
 
 #include <array>
 #include <string>
@@ -47,4 +47,4 @@ class PathNames {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_HOST_NAMES_H_
+#endif  // VELLUMARK_PLATFORM_COMMON_HOST_NAMES_H_

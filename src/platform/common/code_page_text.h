@@ -1,7 +1,7 @@
 // Text in one of the 8-bit Windows code pages, from tables of its own: the C library's locales
 // need not be installed.
-#ifndef VELLUMARK_PLATFORM_POSIX_CODE_PAGE_TEXT_H_
-#define VELLUMARK_PLATFORM_POSIX_CODE_PAGE_TEXT_H_
+#ifndef VELLUMARK_PLATFORM_COMMON_CODE_PAGE_TEXT_H_
+#define VELLUMARK_PLATFORM_COMMON_CODE_PAGE_TEXT_H_
 
 #include <array>
 #include <cstdint>
@@ -68,4 +68,4 @@ class CodePageText : public Text {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_CODE_PAGE_TEXT_H_
+#endif  // VELLUMARK_PLATFORM_COMMON_CODE_PAGE_TEXT_H_

@@ -1,7 +1,7 @@
 // What the bytes of the 8-bit code pages stand for, and which of their letters are pairs of an
 // upper and a lower case.
-#ifndef VELLUMARK_PLATFORM_POSIX_CODE_PAGE_TABLES_H_
-#define VELLUMARK_PLATFORM_POSIX_CODE_PAGE_TABLES_H_
+#ifndef VELLUMARK_PLATFORM_COMMON_CODE_PAGE_TABLES_H_
+#define VELLUMARK_PLATFORM_COMMON_CODE_PAGE_TABLES_H_
 
 #include <string_view>
 
@@ -17,4 +17,4 @@ char16_t LowerOfPair(char16_t upper);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_POSIX_CODE_PAGE_TABLES_H_
+#endif  // VELLUMARK_PLATFORM_COMMON_CODE_PAGE_TABLES_H_
