@@ -3,7 +3,6 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QTimer>
-#include <algorithm>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -15,13 +14,11 @@
 #include "foundation/start_up.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "platform/desktop_services.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_shell.h"
-#include "platform/qt/qt_sound_player.h"
 #include "platform/system_services.h"
-#include "platform/x11/x11_desktop_windows.h"
 #include "program.h"
 #include "ui/principale.h"
 
@@ -38,27 +35,12 @@ std::optional<std::string> FindProgramFolder(FileSystem& files) {
   return folder;
 }
 
-// The arguments as one text, less those that Qt takes for itself.
+// The arguments as one text.
 std::string ArgumentText(const Text& text, MessageBoxes& boxes) {
-  const QString joined = QCoreApplication::arguments().mid(1).join(u' ');
-  const EncodedText encoded = text.FromUtf8(joined.toStdString());
+  const EncodedText encoded = text.FromUtf8(ArgumentsAsTyped());
   if (encoded.missing.empty()) return encoded.bytes;
   boxes.Show(LoadMessage(kPathNotExpressible), BoxButtons::kOk, BoxIcon::kCritical);
   return {};
-}
-
-// The arguments, with a choice of platform for Qt in front. Where both X and Wayland are at hand, X
-// comes first unless the user has chosen: only there can the clipboard be read while another
-// program has the focus.
-std::vector<char*> WithPlatform(int argc, char* argv[]) {
-  static char option[] = "-platform";
-  static char platforms[] = "xcb;wayland";
-  std::vector<char*> arguments(argv, argv + argc);
-  if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    arguments.insert(arguments.begin() + std::min(argc, 1), {option, platforms});
-  }
-  arguments.push_back(nullptr);
-  return arguments;
 }
 
 void SetIcon(FileSystem& files, const std::string& program_folder) {
@@ -74,7 +56,7 @@ void SetIcon(FileSystem& files, const std::string& program_folder) {
 
 int main(int argc, char* argv[]) {
   const std::jthread reading_ahead(ReadAheadForFirstWindow);
-  std::vector<char*> arguments = WithPlatform(argc, argv);
+  std::vector<char*> arguments = WindowArguments(argc, argv);
   argc = static_cast<int>(arguments.size()) - 1;
   QApplication application(argc, arguments.data());
   QApplication::setApplicationName(QStringLiteral("Vellumark"));
@@ -99,18 +81,18 @@ int main(int argc, char* argv[]) {
   }
 
   QtFileDialogs file_dialogs(*files, *text, boxes);
-  QtSoundPlayer sounds(QCoreApplication::applicationDirPath());
-  QtShell shell;
-  X11DesktopWindows desktop;
+  const auto sounds = MakeSoundPlayer(QCoreApplication::applicationDirPath().toStdString());
+  const auto shell = MakeShell();
+  const auto desktop = MakeDesktopWindows();
   QtClipboard clipboard;
   Principale window(*files, *text);
   Program program{.files = *files,
                   .text = *text,
                   .boxes = boxes,
                   .file_dialogs = file_dialogs,
-                  .sounds = sounds,
-                  .shell = shell,
-                  .desktop = desktop,
+                  .sounds = *sounds,
+                  .shell = *shell,
+                  .desktop = *desktop,
                   .clipboard = clipboard,
                   .windows = window,
                   .main_window = window};

@@ -1,0 +1,31 @@
+// The services of the desktop that the program was built for.
+#ifndef VELLUMARK_PLATFORM_DESKTOP_SERVICES_H_
+#define VELLUMARK_PLATFORM_DESKTOP_SERVICES_H_
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/desktop_windows.h"
+#include "platform/shell.h"
+#include "platform/sound_player.h"
+
+namespace vellumark {
+
+// The program's arguments for the windows' library, a null at the end. They refer to `argv`.
+std::vector<char*> WindowArguments(int argc, char* argv[]);
+
+// All arguments of the program as one text, UTF-8; where the system hands them over as one, just as
+// typed. To be called while there is an application.
+std::string ArgumentsAsTyped();
+
+std::unique_ptr<Shell> MakeShell();
+
+// `program_folder` is a host path, UTF-8.
+std::unique_ptr<SoundPlayer> MakeSoundPlayer(const std::string& program_folder);
+
+std::unique_ptr<DesktopWindows> MakeDesktopWindows();
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_DESKTOP_SERVICES_H_

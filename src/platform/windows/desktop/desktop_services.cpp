@@ -1,0 +1,41 @@
+#include "platform/desktop_services.h"
+
+#include <windows.h>
+
+#include "platform/windows/desktop/windows_desktop_windows.h"
+#include "platform/windows/desktop/windows_shell.h"
+#include "platform/windows/desktop/windows_sound_player.h"
+#include "platform/windows/wide_text.h"
+
+namespace vellumark {
+
+std::vector<char*> WindowArguments(int argc, char* argv[]) {
+  std::vector<char*> arguments(argv, argv + argc);
+  arguments.push_back(nullptr);
+  return arguments;
+}
+
+// The command line behind the program's name, which may stand in quotes.
+std::string ArgumentsAsTyped() {
+  const std::wstring line = GetCommandLineW();
+  bool quoted = false;
+  std::size_t end = 0;
+  while (end < line.size() && (quoted || line[end] > L' ')) {
+    if (line[end] == L'"') quoted = !quoted;
+    ++end;
+  }
+  while (end < line.size() && line[end] <= L' ') ++end;
+  return FromWide(std::wstring_view(line).substr(end));
+}
+
+std::unique_ptr<Shell> MakeShell() { return std::make_unique<WindowsShell>(); }
+
+std::unique_ptr<SoundPlayer> MakeSoundPlayer(const std::string& /*program_folder*/) {
+  return std::make_unique<WindowsSoundPlayer>();
+}
+
+std::unique_ptr<DesktopWindows> MakeDesktopWindows() {
+  return std::make_unique<WindowsDesktopWindows>();
+}
+
+}  // namespace vellumark
