@@ -112,8 +112,8 @@ TEST(PlayTest, PutsTheOwnSlotsAsideAndTheSelectedSavegamesIntoTheSlots) {
   EXPECT_EQ(world.clipboard.content, nullptr);
   EXPECT_TRUE(world.program->capture.CaptureArmed);
   ASSERT_EQ(world.shell.opened.size(), 1U);
-  EXPECT_TRUE(world.shell.opened[0].document.ends_with("/Game/tomb4.exe"));
-  EXPECT_TRUE(world.shell.opened[0].working_folder.ends_with("/Game"));
+  EXPECT_EQ(world.shell.opened[0].document, world.files.HostPath("T:\\Game\\tomb4.exe"));
+  EXPECT_EQ(world.shell.opened[0].working_folder, world.files.HostPath("T:\\Game"));
   EXPECT_FALSE(world.shell.opened[0].hidden);
 }
 
@@ -141,6 +141,7 @@ TEST(PlayTest, RefusesBeforeAnyFileIsTouched) {
 }
 
 TEST(PlayTest, RefusesASavegameThatLiesInTheGameFolderByAnotherPath) {
+  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
   PlayWorld world;
   namespace fs = std::filesystem;
   fs::create_directory_symlink(world.disk.path() / "Game", world.disk.path() / "Archive/Slot4");
@@ -239,11 +240,13 @@ TEST(PlayTest, StopsWhenAnOwnSlotCannotBePutAside) {
   EXPECT_TRUE(world.shell.opened.empty());
 
   world.files.Reset();
-  world.disk.Write("Game/SAVEGAME.3", "the same name again");
-  world.Play();
-  EXPECT_NE(world.boxes.AllTexts().find("exists twice"), std::string::npos);
-  EXPECT_EQ(world.disk.Read("Game/SAVEGAME.3"), "the same name again");
-  std::filesystem::remove(world.disk.path() / "Game/SAVEGAME.3");
+  if (testing::DiskTellsCaseApart()) {
+    world.disk.Write("Game/SAVEGAME.3", "the same name again");
+    world.Play();
+    EXPECT_NE(world.boxes.AllTexts().find("exists twice"), std::string::npos);
+    EXPECT_EQ(world.disk.Read("Game/SAVEGAME.3"), "the same name again");
+    std::filesystem::remove(world.disk.path() / "Game/SAVEGAME.3");
+  }
 
   world.disk.MakeReadOnly("Game/savegame.3");
   world.Play();

@@ -24,6 +24,9 @@ void RemoveTemporaryFolder(const std::string& host_folder);
 // can hold.
 bool DiskTellsCaseApart();
 
+// True where everybody may make links.
+bool DiskTakesLinks();
+
 // The system's own file system, in which folders are drives for as long as this lives.
 class TestDrives {
  public:

@@ -33,6 +33,8 @@ void RemoveTemporaryFolder(const std::string& host_folder) {
 
 bool DiskTellsCaseApart() { return true; }
 
+bool DiskTakesLinks() { return true; }
+
 TestDrives::TestDrives(const Text& text, std::map<char, std::string> roots)
     : roots_(std::move(roots)), files_(std::make_unique<PosixFileSystem>(text, DriveMap{roots_})) {}
 

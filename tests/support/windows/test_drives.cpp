@@ -42,6 +42,8 @@ void RemoveTemporaryFolder(const std::string& host_folder) {
 
 bool DiskTellsCaseApart() { return false; }
 
+bool DiskTakesLinks() { return false; }
+
 TestDrives::TestDrives(const Text& text, std::map<char, std::string> roots)
     : roots_(std::move(roots)) {
   for (const auto& [letter, root] : roots_) {
