@@ -88,13 +88,6 @@ bool CopyFileReplacing(FileSystem& files, const std::string& source, const std::
   return error == FileError::kNone;
 }
 
-FileError CopyToFreeName(FileSystem& files, const std::string& source, const std::string& target) {
-  const FileError error = files.Copy(source, target);
-  if (error != FileError::kNone || SameContent(files, source, target)) return error;
-  files.Delete(target);
-  return FileError::kInputOutput;
-}
-
 bool DeleteFileForced(FileSystem& files, const std::string& path, FileError* why) {
   if (!FileExists(files, path)) return true;
 

@@ -31,10 +31,6 @@ bool SameContent(FileSystem& files, const std::string& a, const std::string& b);
 bool CopyFileReplacing(FileSystem& files, const std::string& source, const std::string& destination,
                        FileError* why = nullptr);
 
-// Copies a file to a name that is free, kAlreadyExists otherwise, and reads the copy back. A
-// failure leaves nothing behind; only the death of the program can leave a part of the copy.
-FileError CopyToFreeName(FileSystem& files, const std::string& source, const std::string& target);
-
 // Deletes a file whatever its attributes. True when the file is gone or never was.
 bool DeleteFileForced(FileSystem& files, const std::string& path, FileError* why = nullptr);
 

@@ -69,7 +69,7 @@ SlotBackup BackUpSlots(Program& program, const std::string& game_folder) {
   std::vector<std::string> written;
   for (const std::string& path : slots) {
     const std::string copy = InFolder(play.BackupFolder, FileNameOf(path));
-    error = CopyToFreeName(program.files, path, copy);
+    error = program.files.CopyVerified(path, copy);
     if (error == FileError::kNone) {
       written.push_back(copy);
     } else {
