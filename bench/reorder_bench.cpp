@@ -49,24 +49,44 @@ int FilesBelow(const fs::path& folder) {
   return files;
 }
 
-// The seconds that `copy` takes to fill the empty folder `target`. Nothing waits to be written when
-// it begins.
-template <typename Copy>
-double TimeCopying(const fs::path& target, Copy copy) {
-  fs::remove_all(target);
-  fs::create_directory(target);
-  RunProgram({"sync"});
-  const double begin = Now();
-  copy();
-  const double end = Now();
-  Require(FilesBelow(target) == kFilesOfSavegames, "Not every file has been copied.");
-  return end - begin;
-}
+// Times copies of the files, each into a folder of its own. These go only when all is done: ext4
+// passes over the places of files deleted a short time ago one by one, and whoever copies next
+// would pay for that.
+class CopyTimer {
+ public:
+  explicit CopyTimer(fs::path work) : work_(std::move(work)) {}
+  CopyTimer(const CopyTimer&) = delete;
+  CopyTimer& operator=(const CopyTimer&) = delete;
+  ~CopyTimer() {
+    for (; copies_ > 0; --copies_) fs::remove_all(Target());
+  }
+
+  // The seconds that `copy(target)` takes to fill an empty folder. Nothing waits to be written when
+  // it begins.
+  template <typename Copy>
+  double Time(Copy copy) {
+    ++copies_;
+    const fs::path target = Target();
+    fs::create_directory(target);
+    RunProgram({"sync"});
+    const double begin = Now();
+    copy(target);
+    const double end = Now();
+    Require(FilesBelow(target) == kFilesOfSavegames, "Not every file has been copied.");
+    return end - begin;
+  }
+
+ private:
+  fs::path Target() const { return work_ / ("target" + std::to_string(copies_)); }
+
+  fs::path work_;
+  int copies_ = 0;
+};
 
 class ReorderingProgram {
  public:
-  ReorderingProgram(const fs::path& source, const fs::path& target, const fs::path& game)
-      : source_(CorePath(*files_, source)), target_(CorePath(*files_, target)) {
+  ReorderingProgram(const fs::path& source, const fs::path& game)
+      : source_(CorePath(*files_, source)) {
     program_.archive.settings.GameFolder = CorePath(*files_, game);
   }
 
@@ -83,9 +103,9 @@ class ReorderingProgram {
     boxes_.shown.clear();
   }
 
-  void Reorder() {
+  void Reorder(const fs::path& target) {
     const ReorderSettings settings{
-        .BasePath = target_, .FolderName = "Part", .MaxSlot = kSlotsInFolder - 1};
+        .BasePath = CorePath(*files_, target), .FolderName = "Part", .MaxSlot = kSlotsInFolder - 1};
     const bool done = ReorderArchive(program_, settings, [](int) {});
     Require(done && boxes_.shown.size() == 1, "The archive has not been reordered.");
     Require(program_.catalogue.entries.size() == kSavegames, "The new archive is not whole.");
@@ -112,21 +132,20 @@ class ReorderingProgram {
                    .windows = windows_,
                    .main_window = windows_};
   std::string source_;
-  std::string target_;
 };
 
 void CompareCopying(const fs::path& archive, const fs::path& work) {
   const fs::path source = work / "source";
-  const fs::path target = work / "target";
   const fs::path game = work / "game";
   MakeSource(archive, source);
   fs::create_directory(game);
 
+  CopyTimer timer(work);
   const auto copy_by = [&](std::vector<std::string> command) {
     command.push_back(source.string() + "/.");
-    command.push_back(target.string());
-    return [&target, command] {
-      return TimeCopying(target, [&command] {
+    return [&timer, command] {
+      return timer.Time([command](const fs::path& target) mutable {
+        command.push_back(target.string());
         RunProgram(command);
         RunProgram({"sync"});
       });
@@ -138,10 +157,10 @@ void CompareCopying(const fs::path& archive, const fs::path& work) {
   std::fprintf(stderr, "reorder: cp %.0f ms, rsync %.0f ms\n", copiers.baseline * 1000,
                copiers.ours * 1000);
 
-  ReorderingProgram program(source, target, game);
+  ReorderingProgram program(source, game);
   const auto ours = [&] {
     program.Prepare();
-    return TimeCopying(target, [&program] { program.Reorder(); });
+    return timer.Time([&program](const fs::path& target) { program.Reorder(target); });
   };
   const bool cp_is_faster = copiers.baseline < copiers.ours;
   PrintRatio(cp_is_faster ? "reorder / cp -a, sync" : "reorder / rsync -a, sync",

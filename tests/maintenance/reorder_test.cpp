@@ -105,8 +105,8 @@ class ReorderTest : public ::testing::Test, public TestWorld {
     for (const auto& [name, bytes] : disk.AllFiles()) {
       if (!name.starts_with(folder + "/") || name.find("savegame.") == std::string::npos) continue;
       const int counter = static_cast<unsigned char>(bytes[75]);
-      found.push_back(name.substr(folder.size() + 1) + ": " + bytes.c_str() + ' ' +
-                      std::to_string(counter));
+      found.push_back(name.substr(folder.size() + 1) + ": " + bytes.substr(0, bytes.find('\0')) +
+                      ' ' + std::to_string(counter));
     }
     return found;
   }
@@ -118,7 +118,7 @@ class ReorderTest : public ::testing::Test, public TestWorld {
     EXPECT_EQ(boxes.shown.size(), 1U);
     if (boxes.shown.size() != 1U) return {};
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kCritical);
-    const std::string refusal = boxes.shown[0].text;
+    std::string refusal = boxes.shown[0].text;
     boxes.shown.clear();
     return refusal;
   }
