@@ -61,6 +61,10 @@ using Failures = std::vector<Failure>;
 
 bool StoreNote(Program& program, const SavegameChanges& changes, Failures& failures) {
   SavegameEntry& entry = EntryAt(program, changes.index);
+  // The list may show another note than the file holds by now, which the user has not touched.
+  const bool stale = !changes.note && FileExists(program.files, entry.NotePath) &&
+                     ReadNoteFile(program.files, entry.NotePath) != entry.NoteText;
+  if (stale) return true;
   const std::string note = changes.note ? changes.note->stored : entry.NoteText;
   const FileError error = WriteNoteFile(program.files, entry.NotePath, note);
   if (error != FileError::kNone) {

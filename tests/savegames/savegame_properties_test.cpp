@@ -87,9 +87,16 @@ TEST_F(SavegamePropertiesTest, OkWithoutAChangeWritesTheNoteAgainAndNotTheSavega
   EXPECT_TRUE(program.archive.ArchiveChanged);
 
   entry().NoteText.clear();
+  std::filesystem::remove(world.disk.path() / "Archive/note3.txt");
   EXPECT_EQ(Apply("abc"), ChangesAnswer::kDone);
   EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "\r\n");
   EXPECT_TRUE(world.boxes.shown.empty());
+}
+
+TEST_F(SavegamePropertiesTest, ANoteThatTheUserHasNotChangedDoesNotUndoANewerOne) {
+  world.disk.Write("Archive/note3.txt", "newer\r\n");
+  EXPECT_EQ(Apply("12"), ChangesAnswer::kDone);
+  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "newer\r\n");
 }
 
 TEST_F(SavegamePropertiesTest, OkKeepsFilesListAndDetailsInStep) {
