@@ -100,6 +100,22 @@ TEST_F(AnyDesktop, SendsEnterToTheWindowItActivatesOnly) {
   EXPECT_EQ(bystander.EnterKeys(), "");
 }
 
+TEST_F(AnyDesktop, SendsEnterAfterTheKeyThatTheUserStillHolds) {
+  for (const QString key : {"Return", "alt"}) {
+    TestWindow game({.utf8_title = "Game", .process = kGameProcess});
+    TestWindow own({.utf8_title = "Own", .process = kOwnProcess});
+    QProcess user;
+    user.start("xdotool", {"keydown", key, "sleep", "0.3", "keyup", key});
+    EXPECT_TRUE(Becomes([&] { return !own.EnterKeys().empty(); }));
+    game.TakeFocus();
+
+    desktop_.PressEnter();
+    EXPECT_TRUE(Becomes([&] { return game.EnterKeys().ends_with("down up "); }))
+        << key.toStdString() << ": " << game.EnterKeys();
+    user.waitForFinished();
+  }
+}
+
 TEST_F(AnyDesktop, WaitsForItsTurn) {
   TestWindow own({.utf8_title = "Own", .process = kOwnProcess});
   TestWindow game({.utf8_title = "Game"});

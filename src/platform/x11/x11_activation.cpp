@@ -3,27 +3,15 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <functional>
-#include <thread>
 
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_lookup.h"
+#include "platform/x11/x11_wait.h"
 
 namespace vellumark {
 namespace {
 
 constexpr std::chrono::seconds kLongestWait(2);
-constexpr std::chrono::milliseconds kPause(20);
-
-// False when it still does not hold after the longest wait.
-bool WaitUntil(const std::function<bool()>& holds) {
-  const auto deadline = std::chrono::steady_clock::now() + kLongestWait;
-  while (!holds()) {
-    if (std::chrono::steady_clock::now() >= deadline) return false;
-    std::this_thread::sleep_for(kPause);
-  }
-  return true;
-}
 
 bool IsOurTurn(X11Connection& x) {
   const WindowHandle active = FindActiveWindow(x);
@@ -51,7 +39,7 @@ void Focus(X11Connection& x, WindowHandle window) {
 }  // namespace
 
 Activation ActivateWindow(X11Connection& x, WindowHandle window, ProcessId process) {
-  const bool our_turn = WaitUntil([&x] { return !x.IsAlive() || IsOurTurn(x); });
+  const bool our_turn = WaitUntil(kLongestWait, [&x] { return !x.IsAlive() || IsOurTurn(x); });
   if (!our_turn) return Activation::kNotOurTurn;
   if (!Exists(x, window) || FindProcess(x, window) != process) return Activation::kFailed;
 
@@ -62,7 +50,7 @@ Activation ActivateWindow(X11Connection& x, WindowHandle window, ProcessId proce
     Raise(x, window);
   }
   bool active = false;
-  WaitUntil([&] {
+  WaitUntil(kLongestWait, [&] {
     // The focus is refused to a window that is not visible yet.
     if (!managed) Focus(x, window);
     active = FindActiveWindow(x) == window;

@@ -2,12 +2,20 @@
 
 #include <xcb/xtest.h>
 
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
 #include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_wait.h"
 
 namespace vellumark {
 namespace {
 
 constexpr xcb_keysym_t kReturn = 0xFF0D;
+
+// Longer than a key is down when it is pressed once.
+constexpr std::chrono::seconds kLongestHold(1);
 
 // The key that gives Enter without a modifier; 0 when there is none.
 xcb_keycode_t EnterKey(xcb_connection_t* xcb) {
@@ -24,6 +32,31 @@ xcb_keycode_t EnterKey(xcb_connection_t* xcb) {
   return 0;
 }
 
+std::vector<xcb_keycode_t> ModifierKeys(xcb_connection_t* xcb) {
+  const Reply<xcb_get_modifier_mapping_reply_t> mapping(
+      xcb_get_modifier_mapping_reply(xcb, xcb_get_modifier_mapping(xcb), nullptr));
+  if (!mapping) return {};
+  const xcb_keycode_t* first = xcb_get_modifier_mapping_keycodes(mapping.get());
+  return {first, first + xcb_get_modifier_mapping_keycodes_length(mapping.get())};
+}
+
+bool IsAnyHeld(xcb_connection_t* xcb, const std::vector<xcb_keycode_t>& keys) {
+  const Reply<xcb_query_keymap_reply_t> held(
+      xcb_query_keymap_reply(xcb, xcb_query_keymap(xcb), nullptr));
+  const auto is_held = [&held](unsigned key) {
+    return (unsigned{held->keys[key / 8]} >> (key % 8) & 1U) != 0;
+  };
+  return held && std::ranges::any_of(keys, is_held);
+}
+
+// The key that the user has just answered a dialog with may still be down. Enter cannot be pressed
+// twice, and with a modifier it is another key.
+void WaitForTheUser(xcb_connection_t* xcb, xcb_keycode_t enter) {
+  std::vector<xcb_keycode_t> in_the_way = ModifierKeys(xcb);
+  in_the_way.push_back(enter);
+  WaitUntil(kLongestHold, [&] { return !IsAnyHeld(xcb, in_the_way); });
+}
+
 }  // namespace
 
 void PressEnterKey(X11Connection& x) {
@@ -34,6 +67,7 @@ void PressEnterKey(X11Connection& x) {
 
   const xcb_keycode_t key = EnterKey(xcb);
   if (key == 0) return;
+  WaitForTheUser(xcb, key);
   for (const int event : {XCB_KEY_PRESS, XCB_KEY_RELEASE}) {
     xcb_test_fake_input(xcb, static_cast<std::uint8_t>(event), key, XCB_CURRENT_TIME,
                         XCB_WINDOW_NONE, 0, 0, 0);
