@@ -3,7 +3,11 @@ source "$SCRIPTS/desktop.sh"
 
 work=$(mktemp -d)
 start_window_manager
-trap 'kill $manager ${program:-} 2>/dev/null || true; rm -rf "$work"' EXIT
+leave() {
+  kill $manager ${program:-} 2>/dev/null || true
+  rm -rf "$work"
+}
+trap leave EXIT
 
 fail() {
   echo "FAILED: $*" >&2
