@@ -41,8 +41,9 @@ class DesktopWindows {
   // when the window is the active one on return.
   virtual Activation Activate(WindowHandle window, ProcessId process) = 0;
 
-  // Sends the Enter key to the active window, without waiting until it is processed. A key of the
-  // user's that is still down and would spoil it is waited for, a second at most.
+  // Sends the Enter key to the active window, down as long as a finger keeps it, without waiting
+  // until it is processed. A key of the user's that is still down and would spoil it is waited for,
+  // a second at most.
   virtual void PressEnter() = 0;
 };
 

@@ -116,6 +116,14 @@ TEST_F(AnyDesktop, SendsEnterAfterTheKeyThatTheUserStillHolds) {
   }
 }
 
+TEST_F(AnyDesktop, HoldsEnterLongEnoughForAGameThatLooksAtTheKeyboardOnceAFrame) {
+  TestWindow game({.utf8_title = "Game", .process = kGameProcess});
+  std::thread program([this] { desktop_.PressEnter(); });
+  EXPECT_TRUE(Becomes([&] { return game.IsAnyKeyDown(); }));
+  program.join();
+  EXPECT_TRUE(Becomes([&] { return game.EnterKeys() == "down up "; })) << game.EnterKeys();
+}
+
 TEST_F(AnyDesktop, WaitsForItsTurn) {
   TestWindow own({.utf8_title = "Own", .process = kOwnProcess});
   TestWindow game({.utf8_title = "Game"});

@@ -1,5 +1,6 @@
 #include "desktop/test_window.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdlib>
@@ -134,6 +135,16 @@ std::string TestWindow::EnterKeys() {
     std::free(event);
   }
   return keys_;
+}
+
+bool TestWindow::IsAnyKeyDown() {
+  xcb_query_keymap_reply_t* keyboard =
+      xcb_query_keymap_reply(connection_, xcb_query_keymap(connection_), nullptr);
+  const bool down =
+      keyboard != nullptr &&
+      std::ranges::any_of(keyboard->keys, [](std::uint8_t eight_keys) { return eight_keys != 0; });
+  std::free(keyboard);
+  return down;
 }
 
 }  // namespace vellumark::testing

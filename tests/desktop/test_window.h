@@ -43,6 +43,8 @@ class TestWindow {
   // The Enter keys that have come so far: `down` and `up` for each press and release without a
   // modifier, `other` for any other key event.
   std::string EnterKeys();
+  // True while any key is down, whichever window has the focus.
+  bool IsAnyKeyDown();
 
  private:
   bool IsManaged();

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <thread>
 #include <vector>
 
 #include "platform/x11/x11_connection.h"
@@ -16,6 +17,10 @@ constexpr xcb_keysym_t kReturn = 0xFF0D;
 
 // Longer than a key is down when it is pressed once.
 constexpr std::chrono::seconds kLongestHold(1);
+
+// Games look at the keyboard once a frame and would miss a key that is up again at once, and Wine
+// drops a key when the focus leaves the game in the same moment.
+constexpr std::chrono::milliseconds kPress(100);
 
 // The key that gives Enter without a modifier; 0 when there is none.
 xcb_keycode_t EnterKey(xcb_connection_t* xcb) {
@@ -57,6 +62,11 @@ void WaitForTheUser(xcb_connection_t* xcb, xcb_keycode_t enter) {
   WaitUntil(kLongestHold, [&] { return !IsAnyHeld(xcb, in_the_way); });
 }
 
+void SendKey(xcb_connection_t* xcb, std::uint8_t event, xcb_keycode_t key) {
+  xcb_test_fake_input(xcb, event, key, XCB_CURRENT_TIME, XCB_WINDOW_NONE, 0, 0, 0);
+  xcb_flush(xcb);
+}
+
 }  // namespace
 
 void PressEnterKey(X11Connection& x) {
@@ -68,11 +78,9 @@ void PressEnterKey(X11Connection& x) {
   const xcb_keycode_t key = EnterKey(xcb);
   if (key == 0) return;
   WaitForTheUser(xcb, key);
-  for (const int event : {XCB_KEY_PRESS, XCB_KEY_RELEASE}) {
-    xcb_test_fake_input(xcb, static_cast<std::uint8_t>(event), key, XCB_CURRENT_TIME,
-                        XCB_WINDOW_NONE, 0, 0, 0);
-  }
-  xcb_flush(xcb);
+  SendKey(xcb, XCB_KEY_PRESS, key);
+  std::this_thread::sleep_for(kPress);
+  SendKey(xcb, XCB_KEY_RELEASE, key);
 }
 
 }  // namespace vellumark
