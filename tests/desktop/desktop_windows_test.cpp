@@ -210,7 +210,7 @@ TEST(AnyServer, OffersNothingOnceItHasGone) {
   server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
                                         QStringLiteral("-nolisten"), QStringLiteral("tcp")});
   ASSERT_TRUE(server.waitForReadyRead());
-  const ScopedDisplay display(":" + server.readAllStandardOutput().trimmed().toStdString());
+  const ScopedDisplay display(server.readAllStandardOutput().trimmed().prepend(':').toStdString());
   X11DesktopWindows desktop;
   auto window = std::make_unique<TestWindow>(WindowTraits{.utf8_title = "On that server"});
   ASSERT_EQ(Listed(desktop, "On that server"), window->Handle());

@@ -96,7 +96,7 @@ TEST(CodePageChoice, TheFirstVariableThatIsNotEmptyNamesTheLocale) {
   variables["LC_CTYPE"] = "el_GR";
   EXPECT_EQ(locale_name(), "el_GR");
 
-  variables["LC_ALL"] = "C";
+  variables["LC_ALL"].assign(1, 'C');
   EXPECT_EQ(locale_name(), "C");
 }
 
