@@ -174,6 +174,7 @@ void SavegamePropertiesDialogTest::LongPathsFitASmallScreen() {
 void SavegamePropertiesDialogTest::ANoteThatWasNotChangedGoesBackByteForByte() {
   const std::string note = "a\x8D b\nc\xA0\x81\x07 \x8D\x8D\n";
   Entry().NoteText = note;
+  world_->disk.Write("Archive/Slot1/NOTE3.TXT", note);
   InDialog([](QDialog* dialog) {
     QTest::keyClicks(Note(dialog), QStringLiteral("typed"));
     QTest::keyClick(Note(dialog), Qt::Key_Z, Qt::ControlModifier);
