@@ -69,6 +69,11 @@ void SavegameList::SelectLine(int index) {
   scrollTo(line);
 }
 
+// The blank that selects a line together with Ctrl is no search for the lines that begin with one.
+void SavegameList::keyboardSearch(const QString& search) {
+  if (search != QLatin1String(" ")) QListView::keyboardSearch(search);
+}
+
 void SavegameList::selectionChanged(const QItemSelection& selected,
                                     const QItemSelection& deselected) {
   QListView::selectionChanged(selected, deselected);

@@ -19,6 +19,7 @@ class SavegameList final : public QListView {
   void ReplaceLine(int index, const QString& line);
   std::vector<int> SelectedLines() const;
   void SelectLine(int index);
+  void keyboardSearch(const QString& search) override;
 
  signals:
   // The user has changed the selection, or clicked a line again.

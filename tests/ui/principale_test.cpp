@@ -36,6 +36,8 @@ class PrincipaleTest : public QObject {
   void EveryControlCanBeTold();
   void EveryCommandIsEnabled();
   void KeysChangeTheDetailsAsClicksDo();
+  void CtrlAndTheSpaceBarSelectOneLineMore();
+  void TheColumnsOfTheListAlign();
   void TheContextMenuHasTheSavegameCommands();
   void DelAsksAndDeletesTheSelection();
   void ARowShowsControlCharactersAsMarksOrBlanks();
@@ -215,6 +217,25 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, line(2));
   QCOMPARE(program_->selection.Count(), std::int16_t{0});
   QCOMPARE(FieldText("Text_PathSavegame"), QString());
+}
+
+void PrincipaleTest::CtrlAndTheSpaceBarSelectOneLineMore() {
+  Start();
+  auto* list = Find<SavegameList>("List1");
+  QTest::keyClick(list, Qt::Key_Home);
+  QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+  // As Windows reports it: with a blank as the text that it types.
+  QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, QStringLiteral(" "));
+  QApplication::sendEvent(list, &space);
+  QCOMPARE(list->SelectedLines(), (std::vector<int>{0, 1}));
+  QCOMPARE(list->currentIndex().row(), 1);
+}
+
+void PrincipaleTest::TheColumnsOfTheListAlign() {
+  Start();
+  const QFontMetrics metrics(Find<SavegameList>("List1")->font());
+  QCOMPARE(metrics.horizontalAdvance(QStringLiteral("iiii")),
+           metrics.horizontalAdvance(QStringLiteral("WWWW")));
 }
 
 void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
