@@ -26,6 +26,14 @@ std::unique_ptr<SoundPlayer> MakeSoundPlayer(const std::string& program_folder);
 
 std::unique_ptr<DesktopWindows> MakeDesktopWindows();
 
+// Brings one of the program's own windows to the front while another program is there, where the
+// windows' library does not. A failure changes nothing.
+void BringToFront(WindowHandle own_window);
+
+// The clipboard's picture in the system's own form, as the bytes of a BMP file; for when the
+// windows' library gets none. Empty where there is none.
+std::string ClipboardAsBmpFile();
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_PLATFORM_DESKTOP_SERVICES_H_

@@ -16,6 +16,7 @@
 #include "game/capture_picture.h"
 #include "game/capture_slots.h"
 #include "game/running_game.h"
+#include "platform/desktop_services.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_text.h"
@@ -136,6 +137,7 @@ void CaptureDialog::Appear() {
   show();
   raise();
   activateWindow();
+  BringToFront(static_cast<WindowHandle>(winId()));
 }
 
 bool CaptureDialog::eventFilter(QObject* watched, QEvent* event) {

@@ -6,6 +6,8 @@
 #include <QMimeData>
 #include <QPainter>
 
+#include "platform/desktop_services.h"
+
 namespace vellumark {
 namespace {
 
@@ -29,7 +31,7 @@ QImage ReadImage(const QMimeData& content) {
     QImage image = QImage::fromData(content.data(format));
     if (!image.isNull()) return image;
   }
-  return {};
+  return QImage::fromData(QByteArray::fromStdString(ClipboardAsBmpFile()), "BMP");
 }
 
 }  // namespace

@@ -38,4 +38,10 @@ std::unique_ptr<DesktopWindows> MakeDesktopWindows() {
   return std::make_unique<X11DesktopWindows>();
 }
 
+// Qt's own request is enough.
+void BringToFront(WindowHandle /*own_window*/) {}
+
+// Qt reads whatever an X clipboard offers.
+std::string ClipboardAsBmpFile() { return {}; }
+
 }  // namespace vellumark

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/windows/desktop/windows_clipboard.h"
 #include "platform/windows/desktop/windows_desktop_windows.h"
 #include "platform/windows/desktop/windows_shell.h"
 #include "platform/windows/desktop/windows_sound_player.h"
@@ -37,5 +38,11 @@ std::unique_ptr<SoundPlayer> MakeSoundPlayer(const std::string& /*program_folder
 std::unique_ptr<DesktopWindows> MakeDesktopWindows() {
   return std::make_unique<WindowsDesktopWindows>();
 }
+
+// Without force the taskbar would only ask for the user's attention.
+void BringToFront(WindowHandle own_window) { ForceToForeground(own_window); }
+
+// Wine has bitmaps that it does not hand out in the way the windows' library asks for them.
+std::string ClipboardAsBmpFile() { return BmpFileOf(ReadClipboardBitmap()); }
 
 }  // namespace vellumark

@@ -51,17 +51,18 @@ bool WaitUntil(const std::function<bool()>& reached, DWORD milliseconds) {
   return true;
 }
 
+}  // namespace
+
 // Joined to the input of the program that is in front, this one may hand that place on.
-void ForceToForeground(HWND window) {
+void ForceToForeground(WindowHandle window) {
+  HWND target = FromHandle(window);
   const DWORD own = GetCurrentThreadId();
   const DWORD front = GetWindowThreadProcessId(GetForegroundWindow(), nullptr);
   const bool joined = front != 0 && front != own && AttachThreadInput(own, front, TRUE) != 0;
-  BringWindowToTop(window);
-  SetForegroundWindow(window);
+  BringWindowToTop(target);
+  SetForegroundWindow(target);
   if (joined) AttachThreadInput(own, front, FALSE);
 }
-
-}  // namespace
 
 std::vector<TopLevelWindow> WindowsDesktopWindows::List() {
   std::vector<TopLevelWindow> windows;
@@ -86,7 +87,7 @@ Activation WindowsDesktopWindows::Activate(WindowHandle window, ProcessId proces
   const auto is_in_front = [target] { return GetForegroundWindow() == target; };
   if (WaitUntil(is_in_front, kWaitForOtherFocus)) return Activation::kActivated;
 
-  ForceToForeground(target);
+  ForceToForeground(window);
   return WaitUntil(is_in_front, kWaitForOtherFocus) ? Activation::kActivated : Activation::kFailed;
 }
 

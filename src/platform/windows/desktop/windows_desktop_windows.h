@@ -15,6 +15,9 @@ class WindowsDesktopWindows final : public DesktopWindows {
   void PressEnter() override;
 };
 
+// Brings a window to the front even while another program, which the user works in, is there.
+void ForceToForeground(WindowHandle window);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_PLATFORM_WINDOWS_DESKTOP_WINDOWS_DESKTOP_WINDOWS_H_
