@@ -14,7 +14,7 @@ wait_for_log() {
     [ $SECONDS -lt $deadline ] || fail "the game's log has not $1 times '$2': $(cat "$game/stand-in.log")"
     sleep 0.05
   done
-  [ "$(log_count "$2")" -eq "$1" ] || fail "the game's log has '$2' too often"
+  [ "$(log_count "$2")" -eq "$1" ] || fail "the game's log has '$2' too often: $(cat "$game/stand-in.log")"
 }
 
 # Lets the stand-in obey a command that it has not been given before.

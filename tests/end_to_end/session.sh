@@ -38,4 +38,4 @@ press_in() {
 }
 
 # Types a text into whatever has the focus.
-type_text() { xdotool type --clearmodifiers --delay 30 "$1"; }
+type_text() { xdotool type --clearmodifiers --delay 30 -- "$1"; }
