@@ -8,6 +8,7 @@
 #include "archive/scan.h"
 #include "maintenance/reorder_order.h"
 #include "maintenance/reorder_plan.h"
+#include "support/test_drives.h"
 #include "support/test_world.h"
 
 namespace vellumark {
@@ -264,6 +265,8 @@ TEST_F(ReorderTest, AnOldSubfolderWithAnythingNotCopiedStaysWholeAndIsNamed) {
       {"archives cannot hold", [this] { disk.Write("Archive/Slot2/\xD0\x96", "x"); }}};
   settings.DeleteOldArchive = true;
   for (const auto& [named, change] : cases) {
+    // Such a name would only be the savegame's again.
+    if (!testing::DiskTellsCaseApart() && named == std::string("SAVEGAME.0")) continue;
     bool changed = false;
     files.meanwhile = [&, act = &change](const std::string& operation) {
       if (operation != "Flush" || changed) return;
@@ -301,6 +304,7 @@ TEST_F(ReorderTest, ADroppedSavegameThatHasChangedStays) {
 }
 
 TEST_F(ReorderTest, NeverDeletesTheNewSubfoldersOrOtherFoldersInUse) {
+  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
   settings = {.BasePath = "T:\\Archive", .FolderName = "Slot", .MaxSlot = 9};
   settings.DeleteOldArchive = true;
   std::filesystem::rename(disk.path() / "Archive/Slot1", disk.path() / "Archive/Slot3");
