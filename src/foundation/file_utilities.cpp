@@ -68,10 +68,7 @@ bool FolderExists(FileSystem& files, const std::string& path) {
 }
 
 bool SameContent(FileSystem& files, const std::string& a, const std::string& b) {
-  const ReadResult first = files.Read(a, FileSystem::kWholeFile);
-  if (first.error != FileError::kNone) return false;
-  const ReadResult second = files.Read(b, FileSystem::kWholeFile);
-  return second.error == FileError::kNone && first.bytes == second.bytes;
+  return files.SameContent(a, b);
 }
 
 bool CopyFileReplacing(FileSystem& files, const std::string& source, const std::string& destination,

@@ -34,13 +34,12 @@ std::string BackupCopyOf(const Program& program, const std::string& path) {
 // Where else there is what a file of the game folder holds.
 Kept WhereKept(Program& program, const std::string& path, bool is_backed_up) {
   const PlayState& play = program.play;
+  if (is_backed_up && SameContent(program.files, path, BackupCopyOf(program, path))) {
+    return Kept::kInBackup;
+  }
+  if (play.placed.empty()) return Kept::kNowhere;
   const ReadResult file = program.files.Read(path, FileSystem::kWholeFile);
   if (file.error != FileError::kNone) return Kept::kNowhere;
-  if (is_backed_up) {
-    const ReadResult backup =
-        program.files.Read(BackupCopyOf(program, path), FileSystem::kWholeFile);
-    if (backup.error == FileError::kNone && backup.bytes == file.bytes) return Kept::kInBackup;
-  }
   const auto placed = std::ranges::find(play.placed, file.bytes, &PlacedFile::bytes);
   return placed == play.placed.end() ? Kept::kNowhere : Kept::kInArchive;
 }

@@ -146,6 +146,10 @@ class FileSystem {
   // The first `limit` bytes of a file.
   virtual ReadResult Read(const std::string& path, std::size_t limit) = 0;
 
+  // True when both files could be read and hold the same bytes. Built from Read where a system has
+  // nothing faster.
+  virtual bool SameContent(const std::string& a, const std::string& b);
+
   // Empty when nothing of that name exists or it cannot be told.
   virtual std::optional<FileIdentity> Identity(const std::string& path) = 0;
 

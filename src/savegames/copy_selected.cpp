@@ -148,7 +148,8 @@ class Copier {
       if (!SameContent(files_, from, to)) why = MakeRoom(to);
     }
     if (why == FileError::kNotFound) {
-      if (!CopyFileReplacing(files_, from, to, &why)) return why;
+      why = files_.CopyVerified(from, to);
+      if (why != FileError::kNone) return why;
       written_.insert(FileKey(to));
     }
     if (why != FileError::kNone) return why;

@@ -134,6 +134,18 @@ ReadResult PosixFileSystem::Read(const std::string& path, std::size_t limit) {
   return ReadUpTo(file.number(), limit, FileEnd::kEmptyRead);
 }
 
+bool PosixFileSystem::SameContent(const std::string& a, const std::string& b) {
+  const Descriptor first = OpenToRead(a);
+  const Descriptor second = OpenToRead(b);
+  return first.IsOpen() && second.IsOpen() && CompareAll(first.number(), second.number()) == 0;
+}
+
+Descriptor PosixFileSystem::OpenToRead(const std::string& path) {
+  const PathStatus found = Status(path);
+  if (found.error != FileError::kNone || !S_ISREG(found.status.st_mode)) return Descriptor(-1);
+  return Descriptor(open(found.host.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
+}
+
 std::optional<FileIdentity> PosixFileSystem::Identity(const std::string& path) {
   const PathStatus found = Status(path);
   if (found.error != FileError::kNone) return std::nullopt;

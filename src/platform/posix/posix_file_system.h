@@ -13,6 +13,7 @@
 #include "platform/common/host_names.h"
 #include "platform/common/windows_path.h"
 #include "platform/file_system.h"
+#include "platform/posix/descriptor_io.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/host_directory.h"
 #include "platform/posix/path_lookup.h"
@@ -41,6 +42,7 @@ class PosixFileSystem final : public FileSystem {
   Listing List(const std::string& pattern) override;
   std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) override;
   ReadResult Read(const std::string& path, std::size_t limit) override;
+  bool SameContent(const std::string& a, const std::string& b) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;
 
   FileError Create(const std::string& path, std::string_view bytes) override;
@@ -75,6 +77,8 @@ class PosixFileSystem final : public FileSystem {
 
   FileError CopyToNew(const std::string& source, const std::string& target, bool verify);
   PathStatus Status(const std::string& path);
+  // Not open when the path names no regular file that can be read.
+  Descriptor OpenToRead(const std::string& path);
   FileError OpenDirectory(const WindowsPath& path, Directory* directory);
   // The place of a file that is to be changed: one that exists and is not ambiguous.
   NamePlace PlaceToChange(const std::string& path);
