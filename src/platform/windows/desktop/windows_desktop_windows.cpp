@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -51,6 +52,26 @@ bool WaitUntil(const std::function<bool()>& reached, DWORD milliseconds) {
   return true;
 }
 
+// Longer than a key is down when it is pressed once, in milliseconds.
+constexpr DWORD kLongestHold = 1000;
+
+// Games look at the keyboard once a frame and would miss a key that is up again at once.
+constexpr DWORD kPress = 100;  // milliseconds
+
+constexpr std::array kKeysInTheWay = {VK_RETURN, VK_SHIFT, VK_CONTROL, VK_MENU, VK_LWIN, VK_RWIN};
+
+bool IsHeld(int key) { return (static_cast<unsigned>(GetAsyncKeyState(key)) & 0x8000U) != 0; }
+
+// With the key's place on the keyboard too: games read that.
+void SendEnter(DWORD flags) {
+  INPUT stroke = {};
+  stroke.type = INPUT_KEYBOARD;
+  stroke.ki.wVk = VK_RETURN;
+  stroke.ki.wScan = static_cast<WORD>(MapVirtualKeyW(VK_RETURN, MAPVK_VK_TO_VSC));
+  stroke.ki.dwFlags = flags;
+  SendInput(1, &stroke, sizeof(INPUT));
+}
+
 }  // namespace
 
 // Joined to the input of the program that is in front, this one may hand that place on.
@@ -91,16 +112,13 @@ Activation WindowsDesktopWindows::Activate(WindowHandle window, ProcessId proces
   return WaitUntil(is_in_front, kWaitForOtherFocus) ? Activation::kActivated : Activation::kFailed;
 }
 
-// With the key's place on the keyboard too: games read that.
 void WindowsDesktopWindows::PressEnter() {
-  std::array<INPUT, 2> strokes = {};
-  for (INPUT& stroke : strokes) {
-    stroke.type = INPUT_KEYBOARD;
-    stroke.ki.wVk = VK_RETURN;
-    stroke.ki.wScan = static_cast<WORD>(MapVirtualKeyW(VK_RETURN, MAPVK_VK_TO_VSC));
-  }
-  strokes[1].ki.dwFlags = KEYEVENTF_KEYUP;
-  SendInput(static_cast<UINT>(strokes.size()), strokes.data(), sizeof(INPUT));
+  // The key that the user has just answered a dialog with may still be down. Enter cannot be pressed
+  // twice, and with a modifier it is another key.
+  WaitUntil([] { return std::ranges::none_of(kKeysInTheWay, IsHeld); }, kLongestHold);
+  SendEnter(0);
+  Sleep(kPress);
+  SendEnter(KEYEVENTF_KEYUP);
 }
 
 }  // namespace vellumark
