@@ -1,14 +1,18 @@
-// Message boxes, file dialogs, the shell and sounds by Qt.
+// Message boxes, file dialogs, the clipboard, the shell and sounds by Qt.
 #include <QApplication>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
 
+#include "game/capture.h"
+#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_shell.h"
@@ -31,6 +35,7 @@ class QtServicesTest : public QObject {
   void FiltersAreWrittenAsQtWants();
   void TheShellRefusesWhatIsMissing();
   void SoundsNeedNeitherDeviceNorModule();
+  void APictureIsConvertedOnlyWhenItIsWanted();
 
  private:
   // Does something to the dialog that comes up next.
@@ -178,6 +183,55 @@ void QtServicesTest::SoundsNeedNeitherDeviceNorModule() {
     player.Play(program.filePath(QLatin1String(sound)).toStdString());
     QTest::qWait(20);
   }
+}
+
+// A picture on the clipboard that counts how often it is asked for its pixels.
+class CountedPicture final : public QMimeData {
+ public:
+  explicit CountedPicture(int* conversions) : conversions_(conversions) {}
+
+  QStringList formats() const override { return {QStringLiteral("application/x-qt-image")}; }
+
+ protected:
+  QVariant retrieveData(const QString& /*format*/, QMetaType /*type*/) const override {
+    ++*conversions_;
+    return image_;
+  }
+
+ private:
+  int* conversions_;
+  QImage image_{7680, 4320, QImage::Format_RGB32};
+};
+
+void QtServicesTest::APictureIsConvertedOnlyWhenItIsWanted() {
+  int conversions = 0;
+  QApplication::clipboard()->setMimeData(new CountedPicture(&conversions));
+  conversions = 0;
+  QtClipboard clipboard;
+  Program program{.files = world_.files,
+                  .text = world_.text,
+                  .boxes = world_.boxes,
+                  .file_dialogs = world_.dialogs,
+                  .sounds = world_.sounds,
+                  .shell = world_.shell,
+                  .desktop = world_.desktop,
+                  .clipboard = clipboard,
+                  .windows = world_.windows,
+                  .main_window = world_.windows};
+  program.archive.settings.GameFolder = "T:\\Game";
+  program.archive.settings.MaxSavegame = 15;
+  program.preferences.AutoCapture = true;
+  for (int tick = 0; tick < 10; ++tick) OnTimer(program);
+  program.preferences.AutoCapture = false;
+  program.capture.CaptureArmed = true;
+  for (int tick = 0; tick < 10; ++tick) OnTimer(program);
+  QCOMPARE(conversions, 0);
+
+  program.preferences.AutoCapture = true;
+  OnTimer(program);
+  QVERIFY(conversions > 0);
+  QVERIFY(program.capture.picture != nullptr);
+  QApplication::clipboard()->clear();
 }
 
 }  // namespace vellumark

@@ -113,8 +113,8 @@ Activation WindowsDesktopWindows::Activate(WindowHandle window, ProcessId proces
 }
 
 void WindowsDesktopWindows::PressEnter() {
-  // The key that the user has just answered a dialog with may still be down. Enter cannot be pressed
-  // twice, and with a modifier it is another key.
+  // The key that the user has just answered a dialog with may still be down. Enter cannot be
+  // pressed twice, and with a modifier it is another key.
   WaitUntil([] { return std::ranges::none_of(kKeysInTheWay, IsHeld); }, kLongestHold);
   SendEnter(0);
   Sleep(kPress);
