@@ -118,6 +118,7 @@ void ReleaseBackup(Program& program) {
   if (error != FileError::kNone || backup.empty() || !AreBackInPlace(program, backup)) return;
 
   std::vector<std::string> home;
+  home.reserve(backup.size());
   for (const std::string& path : backup) {
     home.push_back(InFolder(program.play.backup_of, FileNameOf(path)));
   }
