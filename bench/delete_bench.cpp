@@ -16,9 +16,7 @@
 #include "maintenance/copy_move.h"
 #include "maintenance/delete_selected.h"
 #include "measured.h"
-#include "platform/system_services.h"
-#include "program.h"
-#include "support/scripted_desktop.h"
+#include "scripted_program.h"
 
 namespace {
 
@@ -29,17 +27,17 @@ namespace fs = std::filesystem;
 class DeletingProgram {
  public:
   explicit DeletingProgram(const std::string& archive) {
-    program_.archive.settings.MainFolder = CorePath(*files_, archive);
+    program_.archive.settings.MainFolder = CorePath(*scripted_.files, archive);
     program_.archive.settings.SubfolderBaseName = kSubfolderBaseName;
     program_.archive.settings.MaxSavegame = kSlotsInFolder - 1;
-    program_.catalogue =
-        BuildCatalogue(*files_, *text_, {.settings = program_.archive.settings, .game_folder = {}})
-            .catalogue;
+    program_.catalogue = BuildCatalogue(*scripted_.files, *scripted_.text,
+                                        {.settings = program_.archive.settings, .game_folder = {}})
+                             .catalogue;
     Require(program_.catalogue.entries.size() == kSavegames, "The catalogue is not whole.");
     for (int index = 0; index < kSavegames; ++index) {
       program_.selection.indices.push_back(static_cast<std::int16_t>(index));
     }
-    boxes_.answers = {BoxAnswer::kYes};
+    scripted_.boxes.answers = {BoxAnswer::kYes};
   }
 
   // The paths on the disk of all files of the catalogue, one a line.
@@ -47,7 +45,7 @@ class DeletingProgram {
     std::ofstream names(list, std::ios::binary);
     for (const SavegameEntry& entry : program_.catalogue.entries) {
       for (const std::string& path : {entry.SavegamePath, entry.NotePath, entry.ShotPath}) {
-        names << files_->HostPath(path) << '\n';
+        names << scripted_.files->HostPath(path) << '\n';
       }
     }
     names.close();
@@ -58,14 +56,15 @@ class DeletingProgram {
   double Delete() {
     double begin = 0;
     double end = 0;
-    boxes_.while_waiting = [&] {
-      if (boxes_.shown.size() == 1) begin = Now();
-      if (boxes_.shown.size() == 2) end = Now();
+    scripted_.boxes.while_waiting = [&] {
+      if (scripted_.boxes.shown.size() == 1) begin = Now();
+      if (scripted_.boxes.shown.size() == 2) end = Now();
     };
-    boxes_.shown.clear();
+    scripted_.boxes.shown.clear();
     program_.archive.settings = {};  // no scan behind the report
     DeleteSelectedSavegames(program_);
-    Require(boxes_.shown.size() >= 2 && boxes_.shown[1].text == "Removed 10000 savegames",
+    Require(scripted_.boxes.shown.size() >= 2 &&
+                scripted_.boxes.shown[1].text == "Removed 10000 savegames",
             "The savegames were not deleted.");
     return end - begin;
   }
@@ -75,25 +74,8 @@ class DeletingProgram {
   }
 
  private:
-  std::unique_ptr<Text> text_ = MakeSystemText();
-  std::unique_ptr<FileSystem> files_ = MakeSystemFileSystem(*text_);
-  vellumark::testing::ScriptedMessageBoxes boxes_;
-  vellumark::testing::ScriptedFileDialogs dialogs_;
-  vellumark::testing::RecordedSounds sounds_;
-  vellumark::testing::RecordedShell shell_;
-  vellumark::testing::ScriptedDesktopWindows desktop_;
-  vellumark::testing::ScriptedClipboard clipboard_;
-  vellumark::testing::ScriptedWindows windows_;
-  Program program_{.files = *files_,
-                   .text = *text_,
-                   .boxes = boxes_,
-                   .file_dialogs = dialogs_,
-                   .sounds = sounds_,
-                   .shell = shell_,
-                   .desktop = desktop_,
-                   .clipboard = clipboard_,
-                   .windows = windows_,
-                   .main_window = windows_};
+  ScriptedProgram scripted_;
+  Program& program_ = scripted_.program;
 };
 
 // The archive's files with little in them, safe on the disk, so that neither run pays for writing

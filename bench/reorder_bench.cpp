@@ -14,9 +14,7 @@
 #include "maintenance/reorder.h"
 #include "maintenance/reorder_order.h"
 #include "measured.h"
-#include "platform/system_services.h"
-#include "program.h"
-#include "support/scripted_desktop.h"
+#include "scripted_program.h"
 
 namespace {
 
@@ -86,8 +84,8 @@ class CopyTimer {
 class ReorderingProgram {
  public:
   ReorderingProgram(const fs::path& source, const fs::path& game)
-      : source_(CorePath(*files_, source)) {
-    program_.archive.settings.GameFolder = CorePath(*files_, game);
+      : source_(CorePath(*scripted_.files, source)) {
+    program_.archive.settings.GameFolder = CorePath(*scripted_.files, game);
   }
 
   // Makes the source the current archive again.
@@ -96,41 +94,25 @@ class ReorderingProgram {
     settings.MainFolder = source_;
     settings.SubfolderBaseName = kSubfolderBaseName;
     settings.MaxSavegame = kSlotsInFolder - 1;
-    program_.catalogue =
-        BuildCatalogue(*files_, *text_, {.settings = settings, .game_folder = settings.GameFolder})
-            .catalogue;
+    program_.catalogue = BuildCatalogue(*scripted_.files, *scripted_.text,
+                                        {.settings = settings, .game_folder = settings.GameFolder})
+                             .catalogue;
     Require(program_.catalogue.entries.size() == kSavegames, "The catalogue is not whole.");
-    boxes_.shown.clear();
+    scripted_.boxes.shown.clear();
   }
 
   void Reorder(const fs::path& target) {
-    const ReorderSettings settings{
-        .BasePath = CorePath(*files_, target), .FolderName = "Part", .MaxSlot = kSlotsInFolder - 1};
+    const ReorderSettings settings{.BasePath = CorePath(*scripted_.files, target),
+                                   .FolderName = "Part",
+                                   .MaxSlot = kSlotsInFolder - 1};
     const bool done = ReorderArchive(program_, settings, [](int) {});
-    Require(done && boxes_.shown.size() == 1, "The archive has not been reordered.");
+    Require(done && scripted_.boxes.shown.size() == 1, "The archive has not been reordered.");
     Require(program_.catalogue.entries.size() == kSavegames, "The new archive is not whole.");
   }
 
  private:
-  std::unique_ptr<Text> text_ = MakeSystemText();
-  std::unique_ptr<FileSystem> files_ = MakeSystemFileSystem(*text_);
-  vellumark::testing::ScriptedMessageBoxes boxes_;
-  vellumark::testing::ScriptedFileDialogs dialogs_;
-  vellumark::testing::RecordedSounds sounds_;
-  vellumark::testing::RecordedShell shell_;
-  vellumark::testing::ScriptedDesktopWindows desktop_;
-  vellumark::testing::ScriptedClipboard clipboard_;
-  vellumark::testing::ScriptedWindows windows_;
-  Program program_{.files = *files_,
-                   .text = *text_,
-                   .boxes = boxes_,
-                   .file_dialogs = dialogs_,
-                   .sounds = sounds_,
-                   .shell = shell_,
-                   .desktop = desktop_,
-                   .clipboard = clipboard_,
-                   .windows = windows_,
-                   .main_window = windows_};
+  ScriptedProgram scripted_;
+  Program& program_ = scripted_.program;
   std::string source_;
 };
 
