@@ -156,6 +156,7 @@ TEST_F(AnyDesktop, FailsToActivateWhatIsNotTheWindowMeant) {
   // Connected before the window goes, so that no number is given out a second time.
   EXPECT_EQ(desktop_.ActiveWindow(), own.Handle());
   vanished.reset();
+  EXPECT_TRUE(Becomes([&] { return !IsListed(desktop_, gone); }));
   EXPECT_EQ(desktop_.Activate(gone, 0), Activation::kFailed);
   EXPECT_EQ(desktop_.Activate(game.Handle(), kGameProcess + 1), Activation::kFailed);
   EXPECT_EQ(desktop_.ActiveWindow(), own.Handle());
