@@ -127,8 +127,10 @@ void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
     QVERIFY(dialog->testOption(QFileDialog::DontConfirmOverwrite));
     QCOMPARE(dialog->selectedFiles().constFirst().toStdString(),
              (world_.disk.path() / "Saves/old.vmk").string());
-    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("new name"));
-    QMetaObject::invokeMethod(dialog, "accept");
+    auto* name = dialog->findChild<QLineEdit*>();
+    QTRY_VERIFY(name->hasFocus());
+    QTest::keyClicks(name, QStringLiteral("new name"));
+    QTest::keyClick(name, Qt::Key_Return);
   });
   const auto saved = dialogs.Save({.title = "Save it",
                                    .filter = "Vellumark archive (*.vmk)|*.vmk",
