@@ -20,6 +20,7 @@
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/system_services.h"
 #include "program.h"
+#include "ui/fonts.h"
 #include "ui/principale.h"
 
 namespace {
@@ -58,6 +59,7 @@ int main(int argc, char* argv[]) {
   const std::jthread reading_ahead(ReadAheadForFirstWindow);
   std::vector<char*> arguments = WindowArguments(argc, argv);
   argc = static_cast<int>(arguments.size()) - 1;
+  NameFontSubstitutes();
   QApplication application(argc, arguments.data());
   QApplication::setApplicationName(QStringLiteral("Vellumark"));
   QApplication::setDesktopFileName(QStringLiteral("vellumark"));

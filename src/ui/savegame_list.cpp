@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/column_font.h"
+#include "ui/fonts.h"
 #include "ui/savegame_list_model.h"
 
 namespace vellumark {

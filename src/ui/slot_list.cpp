@@ -4,7 +4,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
-#include "ui/column_font.h"
+#include "ui/fonts.h"
 
 namespace vellumark {
 namespace {

@@ -12,9 +12,7 @@
 namespace vellumark {
 
 QString QtFilter(const QString& filter) {
-  const QString description = filter.section(u'|', 0, 0);
-  const QString pattern = QStringLiteral("(%1)").arg(filter.section(u'|', 1));
-  return description.endsWith(pattern) ? description : description + u' ' + pattern;
+  return QStringLiteral("%1 (%2)").arg(filter.section(u'|', 0, 0), filter.section(u'|', 1));
 }
 
 std::optional<std::string> QtFileDialogs::Open(const FileDialogRequest& request) {
@@ -35,6 +33,7 @@ std::optional<std::string> QtFileDialogs::Save(const FileDialogRequest& request)
 std::optional<std::string> QtFileDialogs::Run(QFileDialog& dialog,
                                               const FileDialogRequest& request) {
   dialog.setWindowTitle(ToQString(text_, request.title));
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilter(QtFilter(ToQString(text_, request.filter)));
   const QString folder = HostPath(request.start_folder);
   if (QFileInfo(folder).isDir()) dialog.setDirectory(folder);

@@ -29,7 +29,7 @@ class QtFileDialogs final : public FileDialogs {
   MessageBoxes& boxes_;
 };
 
-// A filter in the form description `|` pattern as Qt writes it.
+// A filter in the form description `|` pattern as Qt writes it, the pattern behind the description.
 QString QtFilter(const QString& filter);
 
 }  // namespace vellumark
