@@ -14,20 +14,23 @@ namespace {
 class Releaser {
  public:
   Releaser(FileSystem& files, const std::string& game_folder, const std::string& subfolder,
-           SlotCopies& copies)
+           const SlotCopies& copies)
       : files_(files), game_folder_(game_folder), subfolder_(subfolder), copies_(copies) {}
 
   SlotRelease Release() {
     std::vector<std::string> written = copies_.targets;
     written.push_back(subfolder_);
     release_.flush = files_.Flush(written);
+    if (release_.flush != FileError::kNone) return std::move(release_);
+
     const int highest = copies_.HighestCopiedSlot;
     for (int slot = 0; slot < highest; ++slot) {
-      if (!FileExists(files_, InGame(SavegameFileName(slot)))) continue;
+      if (!FileExists(files_, InGame(SavegameFileName(slot))) || !Arrived(slot)) continue;
       DeleteCopied(SavegameFileName(slot));
       DeleteCopied(NoteFileName(slot));
       DeleteCopied(ShotFileName(slot));
     }
+    if (!Arrived(highest)) return std::move(release_);
     KeepAsFirst(highest);
     DeleteCopied(NoteFileName(highest));
     DeleteCopied(ShotFileName(highest));
@@ -37,14 +40,18 @@ class Releaser {
  private:
   std::string InGame(const std::string& name) const { return InFolder(game_folder_, name); }
 
-  bool FailedToCopy(const std::string& path) const {
-    return std::ranges::find(copies_.failures, path, &Failure::path) != copies_.failures.end();
+  // A note or screen-shot that stayed behind alone would become that of the slot's next savegame.
+  bool Arrived(int slot) const {
+    return std::ranges::none_of(copies_.failures, [&](const Failure& failure) {
+      return failure.path == InGame(SavegameFileName(slot)) ||
+             failure.path == InGame(NoteFileName(slot)) ||
+             failure.path == InGame(ShotFileName(slot));
+    });
   }
 
   // Deletes a file of the game folder, if it is there, once its copy is known to be safe.
   void DeleteCopied(const std::string& name) {
     const std::string path = InGame(name);
-    if (release_.flush != FileError::kNone || FailedToCopy(path)) return;
     if (!FileExists(files_, path)) return;
 
     FileError error = FileError::kInputOutput;
@@ -58,23 +65,19 @@ class Releaser {
     release_.highest_file = InGame(SavegameFileName(highest));
     const std::string first = game_folder_ + LoadMessage(327);
     release_.rename = files_.Rename(release_.highest_file, first, RenameMode::kRefuseExisting);
-    if (release_.rename != FileError::kNone) return;
-    for (Failure& failure : copies_.failures) {
-      if (failure.path == release_.highest_file) failure.path = first;
-    }
   }
 
   FileSystem& files_;
   const std::string& game_folder_;
   const std::string& subfolder_;
-  SlotCopies& copies_;
+  const SlotCopies& copies_;
   SlotRelease release_;
 };
 
 }  // namespace
 
 SlotRelease ReleaseCopiedSlots(FileSystem& files, const std::string& game_folder,
-                               const std::string& subfolder, SlotCopies& copies) {
+                               const std::string& subfolder, const SlotCopies& copies) {
   return Releaser(files, game_folder, subfolder, copies).Release();
 }
 

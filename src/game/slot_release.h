@@ -18,10 +18,10 @@ struct SlotRelease {
 
 // Deletes the copied slots below the highest one from the game folder, makes the highest one
 // savegame.0 and takes its note and screen-shot away. Only files whose copy in `subfolder` is equal
-// at that moment are deleted, after the copies were flushed. Paths in `copies.failures` follow a
-// savegame that was renamed.
+// at that moment are deleted, after the copies were flushed. A slot of which a file was not copied
+// stays as it is.
 SlotRelease ReleaseCopiedSlots(FileSystem& files, const std::string& game_folder,
-                               const std::string& subfolder, SlotCopies& copies);
+                               const std::string& subfolder, const SlotCopies& copies);
 
 }  // namespace vellumark
 

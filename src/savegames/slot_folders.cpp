@@ -27,18 +27,20 @@ SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::st
     const std::string from = InFolder(source, name);
     const std::string to = InFolder(target, name);
     FileError why = FileError::kNone;
-    if (CopyFileReplacing(files, from, to, &why)) {
+    const bool copied = CopyFileReplacing(files, from, to, &why);
+    if (copied) {
       copies.targets.push_back(to);
     } else {
       copies.failures.push_back({from, why});
     }
+    return copied;
   };
 
   const Listing listing = files.List(InFolder(source, "*"));
   for (const Slot& slot : SlotsOf(listing, max_savegame).slots) {
-    copy(SavegameFileName(slot.number));
     ++copies.count;
     copies.HighestCopiedSlot = static_cast<std::int16_t>(slot.number);
+    if (!copy(SavegameFileName(slot.number))) continue;
     if (slot.note != nullptr) copy(NoteFileName(slot.number));
     if (slot.shot != nullptr) copy(ShotFileName(slot.number));
   }

@@ -18,8 +18,8 @@ struct SlotCopies {
 };
 
 // Copies the slots 0 to `max_savegame` of a folder that have a savegame file, each with its note
-// and screen-shot, under the same names into another folder. The sources are never changed, and
-// nothing in the target is deleted.
+// and screen-shot, under the same names into another folder; these stay behind where the savegame
+// itself does not arrive. The sources are never changed, and nothing in the target is deleted.
 SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::string& target,
                      int max_savegame);
 

@@ -165,6 +165,17 @@ TEST(ImportTest, AFailedCopyStaysInTheGameFolderAndIsNamed) {
   EXPECT_NE(report.find("is still savegame.5"), std::string::npos) << report;
 }
 
+TEST(ImportTest, ASlotThatWasNotCopiedWholeKeepsItsNumberNoteAndPicture) {
+  for (const std::string failing : {"savegame.2", "note2.txt", "savegame.5", "shot5.jpg"}) {
+    ImportWorld world;
+    world.files.FailAlways("Copy", failing, FileError::kDiskFull);
+    ImportSavegames(world.program);
+    const bool second = failing.find('2') != std::string::npos;
+    EXPECT_TRUE(world.disk.Exists(second ? "Game/savegame.2" : "Game/savegame.5")) << failing;
+    EXPECT_TRUE(world.disk.Exists(second ? "Game/note2.txt" : "Game/shot5.jpg")) << failing;
+  }
+}
+
 TEST(ImportTest, ASavegameThatTheGameWritesMeanwhileIsNotDeleted) {
   ImportWorld world;
   const std::string newer = SavegameBytes("Tower", 13);
