@@ -31,21 +31,26 @@ bool HasNoNameOfItsOwn(const std::string& path) {
   return EqualsIgnoringAsciiCase(FileNameOf(path), LoadMessage(281));
 }
 
-// Writes the settings to LastArchive and says why when that fails. A file that was not read whole
-// is kept aside first.
-FileError WriteSettings(Program& program) {
-  const std::string& path = program.preferences.LastArchive;
-  if (program.archive.read_in_part && FileExists(program.files, path) &&
-      !KeepBackupOf(program.files, path)) {
-    return FileError::kInputOutput;
+// Writes the settings to a file, which becomes LastArchive. Saving overwrites without a question,
+// so what another archive's file of that name held, or one that was not read whole, is kept first.
+FileError WriteSettings(Program& program, const std::string& path) {
+  ArchiveState& archive = program.archive;
+  const bool is_own_file =
+      !archive.never_written && SamePath(program.text, path, program.preferences.LastArchive);
+  std::optional<std::string> kept;
+  if ((!is_own_file || archive.read_in_part) && FileExists(program.files, path)) {
+    kept = KeepBackupOf(program.files, path);
+    if (!kept) return FileError::kInputOutput;
   }
-  const FileError error =
-      WriteRecordFile(program.files, path, EncodeArchive(program.archive.settings));
-  if (error == FileError::kNone) {
-    program.archive.read_in_part.reset();
-    program.archive.ArchiveChanged = false;
-  }
-  return error;
+  const FileError error = WriteRecordFile(program.files, path, EncodeArchive(archive.settings));
+  if (error != FileError::kNone) return error;
+
+  program.preferences.LastArchive = path;
+  archive.read_in_part.reset();
+  archive.never_written = false;
+  archive.ArchiveChanged = false;
+  if (!is_own_file && kept) Tell(program, LoadMessage(kOldFileKept, {Quoted(path), Quoted(*kept)}));
+  return FileError::kNone;
 }
 
 std::string NotWritten(const std::string& path, FileError error) {
@@ -102,13 +107,14 @@ std::optional<ArchiveSettings> ReadChosenArchive(Program& program, const std::st
 }  // namespace
 
 void SaveArchive(Program& program) {
-  program.preferences.LastArchive = Trimmed(program.preferences.LastArchive);
-  if (program.preferences.LastArchive.empty()) {
+  std::string& last = program.preferences.LastArchive;
+  last = Trimmed(last);
+  if (last.empty()) {
     SaveArchiveAs(program);
     return;
   }
-  if (const FileError error = WriteSettings(program); error != FileError::kNone) {
-    Tell(program, NotWritten(program.preferences.LastArchive, error), BoxIcon::kCritical);
+  if (const FileError error = WriteSettings(program, last); error != FileError::kNone) {
+    Tell(program, NotWritten(last, error), BoxIcon::kCritical);
   }
 }
 
@@ -116,7 +122,8 @@ void SaveArchiveAs(Program& program) {
   program.archive.settings.SavegameCount = program.catalogue.EntryCount();
   PlaySoundEffect(program, SoundEffect::kOpening);
 
-  const std::string last = Trimmed(program.preferences.LastArchive);
+  std::string& last = program.preferences.LastArchive;
+  last = Trimmed(last);
   const auto chosen = program.file_dialogs.Save({.title = LoadMessage(283),
                                                  .filter = LoadMessage(282),
                                                  .start_folder = FolderOf(last),
@@ -124,24 +131,8 @@ void SaveArchiveAs(Program& program) {
   if (!chosen) return;
   const std::string path = Trimmed(*chosen);
   if (!FitsRecord(program, path)) return;
-
-  // Saving overwrites without a question, so what another file of that name held is kept.
-  const bool is_own_file = SamePath(program.text, path, last);
-  std::optional<std::string> kept;
-  if (!is_own_file && FileExists(program.files, path)) {
-    kept = KeepBackupOf(program.files, path);
-    if (!kept) {
-      Tell(program, NotWritten(path, FileError::kInputOutput), BoxIcon::kCritical);
-      return;
-    }
-  }
-
-  program.preferences.LastArchive = path;
-  if (const FileError error = WriteSettings(program); error != FileError::kNone) {
-    program.preferences.LastArchive = last;
+  if (const FileError error = WriteSettings(program, path); error != FileError::kNone) {
     Tell(program, NotWritten(path, error), BoxIcon::kCritical);
-  } else if (kept) {
-    Tell(program, LoadMessage(kOldFileKept, {Quoted(path), Quoted(*kept)}));
   }
 }
 
@@ -160,7 +151,7 @@ void SaveArchiveIfChanged(Program& program) {
     return;
   }
   if (IsUnchangedDamage(program.archive)) return;
-  const FileError error = WriteSettings(program);
+  const FileError error = WriteSettings(program, last);
   if (error == FileError::kNone) return;
   const std::string question =
       NotWritten(last, error) + kLineBreak + kLineBreak + LoadMessage(kSaveElsewhere);
@@ -176,12 +167,14 @@ void NewArchive(Program& program) {
   program.archive.settings.MaxSavegame = kNewArchiveMaxSavegame;
   program.archive.settings.SubfolderBaseName = LoadMessage(269);
   program.archive.read_in_part.reset();
+  program.archive.never_written = true;
   program.preferences.LastArchive = program.paths.ProgramFolder + LoadMessage(270);
 
   program.windows.ShowModal(WindowId::kDialogSetNewArc);
   if (!program.archive.ArchivePropertiesOk) {
     program.archive.settings = kept_archive.settings;
     program.archive.read_in_part = kept_archive.read_in_part;
+    program.archive.never_written = kept_archive.never_written;
     program.preferences.LastArchive = kept_path;
     return;
   }
@@ -210,6 +203,7 @@ void LoadArchive(Program& program) {
   }
   program.archive.settings = *settings;
   program.archive.read_in_part.reset();
+  program.archive.never_written = false;
   program.archive.ArchiveChanged = false;
   ClearMainWindow(program);
   ScanArchive(program);

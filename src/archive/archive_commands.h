@@ -6,8 +6,9 @@ namespace vellumark {
 
 struct Program;
 
-// Writes the settings to LastArchive; without one it asks for a name. A failure is told, and the
-// archive stays changed.
+// Writes the settings to LastArchive; without one it asks for a name. What another archive's file
+// of that name held is kept beside it as `<name>.bak`. A failure is told, and the archive stays
+// changed.
 void SaveArchive(Program& program);
 
 // Asks for a file name, writes the settings there and makes it LastArchive. What an existing file

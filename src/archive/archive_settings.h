@@ -28,6 +28,9 @@ struct ArchiveState {
   // Set while the settings come from a file that could not be read whole: what could be read.
   std::optional<ArchiveSettings> read_in_part;
 
+  // Set while a new archive has not been written: a file of its name is another archive's.
+  bool never_written = false;
+
   bool ArchivePropertiesOk = false;  // the last answer of the archive properties dialog
 };
 

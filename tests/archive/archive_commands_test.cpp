@@ -179,6 +179,18 @@ TEST_F(ArchiveCommandsTest, NewStartsFromItsDefaultsAndTakesTheDialogsOk) {
   EXPECT_TRUE(world.boxes.shown.empty());
 }
 
+TEST_F(ArchiveCommandsTest, ANewArchiveKeepsTheFileOfAnOlderOneWithoutAName) {
+  const std::string older = world.disk.Read("Archive.vmk");
+  world.disk.Write("Program/NoName.vmk", older);
+  world.windows.in_dialog = [this](WindowId) { AnswerWithOk(); };
+  NewArchive(program);
+  SaveArchive(program);
+  SaveArchive(program);
+  EXPECT_EQ(Stored("Program/NoName.vmk").MainFolder, "T:\\Fresh");
+  EXPECT_EQ(world.disk.Read("Program/NoName.vmk.bak"), older);
+  EXPECT_EQ(world.boxes.shown.size(), 1U) << "from then on the file is its own";
+}
+
 TEST_F(ArchiveCommandsTest, NewWithNothingToListTriesToImport) {
   std::filesystem::remove(world.disk.path() / "Game/savegame.0");
   world.windows.in_dialog = [this](WindowId) { AnswerWithOk(); };
