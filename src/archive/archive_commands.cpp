@@ -57,6 +57,14 @@ std::string NotWritten(const std::string& path, FileError error) {
   return LoadMessage(kArchiveNotWritten, {Quoted(path), ReasonFor(error)});
 }
 
+// Says that a save has failed. True when the user wants to try another name: at shut-down there is
+// no later chance.
+bool AskForAnotherName(Program& program, const std::string& path, FileError error) {
+  const std::string question =
+      NotWritten(path, error) + kLineBreak + kLineBreak + LoadMessage(kSaveElsewhere);
+  return AskYesNo(program, question, BoxIcon::kCritical);
+}
+
 // A path that comes from a file dialog must fit the record that remembers it.
 bool FitsRecord(Program& program, const std::string& path) {
   if (path.size() <= kTextFieldSize) return true;
@@ -130,10 +138,9 @@ void SaveArchiveAs(Program& program) {
                                                  .initial_name = last});
   if (!chosen) return;
   const std::string path = Trimmed(*chosen);
-  if (!FitsRecord(program, path)) return;
-  if (const FileError error = WriteSettings(program, path); error != FileError::kNone) {
-    Tell(program, NotWritten(path, error), BoxIcon::kCritical);
-  }
+  if (!FitsRecord(program, path)) return SaveArchiveAs(program);
+  const FileError error = WriteSettings(program, path);
+  if (error != FileError::kNone && AskForAnotherName(program, path, error)) SaveArchiveAs(program);
 }
 
 void SaveArchiveIfChanged(Program& program) {
@@ -152,10 +159,7 @@ void SaveArchiveIfChanged(Program& program) {
   }
   if (IsUnchangedDamage(program.archive)) return;
   const FileError error = WriteSettings(program, last);
-  if (error == FileError::kNone) return;
-  const std::string question =
-      NotWritten(last, error) + kLineBreak + kLineBreak + LoadMessage(kSaveElsewhere);
-  if (AskYesNo(program, question, BoxIcon::kCritical)) SaveArchiveAs(program);
+  if (error != FileError::kNone && AskForAnotherName(program, last, error)) SaveArchiveAs(program);
 }
 
 void NewArchive(Program& program) {

@@ -12,7 +12,7 @@ struct Program;
 void SaveArchive(Program& program);
 
 // Asks for a file name, writes the settings there and makes it LastArchive. What an existing file
-// of that name held is kept beside it as `<name>.bak`.
+// of that name held is kept beside it as `<name>.bak`. After a failure it offers to ask again.
 void SaveArchiveAs(Program& program);
 
 // Saves when the archive has changed. An archive that was never saved under a name of its own

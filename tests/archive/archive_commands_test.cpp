@@ -83,12 +83,16 @@ TEST_F(ArchiveCommandsTest, SaveAsKeepsWhatAnotherFileOfThatNameHeld) {
   EXPECT_NE(world.boxes.AllTexts().find("savegame.0.bak"), std::string::npos);
 }
 
-TEST_F(ArchiveCommandsTest, SaveAsThatCannotWriteKeepsTheOldName) {
-  world.dialogs.answers = {"T:\\None\\x.vmk"};
+TEST_F(ArchiveCommandsTest, SaveAsThatCannotWriteKeepsTheOldNameAndAsksAgain) {
+  world.dialogs.answers = {"T:\\None\\x.vmk", "T:\\" + std::string(254, 'x'), std::nullopt};
   SaveArchiveAs(program);
   EXPECT_EQ(program.preferences.LastArchive, "T:\\Archive.vmk");
   EXPECT_TRUE(program.archive.ArchiveChanged);
-  EXPECT_EQ(world.boxes.shown.size(), 1U);
+  EXPECT_EQ(world.boxes.shown.size(), 2U);
+
+  world.dialogs.answers = {"T:\\None\\x.vmk", "T:\\D.vmk"};
+  SaveArchiveAs(program);
+  EXPECT_TRUE(world.disk.Exists("D.vmk"));
 }
 
 TEST_F(ArchiveCommandsTest, ANeverNamedArchiveBringsUpTheSaveDialog) {
