@@ -5,6 +5,7 @@
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
+#include "foundation/record.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
@@ -83,10 +84,15 @@ bool AcceptArchiveProperties(Program& program, const ArchivePropertiesFields& fi
 
 std::optional<std::string> ChooseGameExecutable(Program& program, const std::string& game_folder) {
   PlaySoundEffect(program, SoundEffect::kOpening);
-  return program.file_dialogs.Open({.title = LoadMessage(222),
-                                    .filter = LoadMessage(223),
-                                    .start_folder = game_folder,
-                                    .initial_name = ""});
+  auto chosen = program.file_dialogs.Open({.title = LoadMessage(222),
+                                           .filter = LoadMessage(223),
+                                           .start_folder = game_folder,
+                                           .initial_name = ""});
+  if (!chosen || chosen->size() <= kTextFieldSize) return chosen;
+
+  PlaySoundEffect(program, SoundEffect::kRefusal);
+  Tell(program, LoadMessage(kPathTooLong, {Quoted(*chosen)}), BoxIcon::kCritical);
+  return std::nullopt;
 }
 
 std::string ChooseMainFolder(Program& program, const std::string& shown) {

@@ -28,7 +28,8 @@ std::string ArchivePropertiesTitle(const Program& program);
 // them is missing or cannot be; nothing has changed then.
 bool AcceptArchiveProperties(Program& program, const ArchivePropertiesFields& fields);
 
-// Asks for the game's executable; empty when the user cancels.
+// Asks for the game's executable; empty when the user cancels or chooses one whose path is too long
+// for the archive file, which is told.
 std::optional<std::string> ChooseGameExecutable(Program& program, const std::string& game_folder);
 
 // Each asks for a folder, starting from the one that the dialog shows, and answers the one that it

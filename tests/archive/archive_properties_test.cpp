@@ -96,11 +96,14 @@ TEST_F(ArchivePropertiesTest, FoldersComeFromTheChooserInItsModes) {
 }
 
 TEST_F(ArchivePropertiesTest, TheExecutableIsAskedForInTheGameFolder) {
-  world.dialogs.answers = {"C:\\Game\\tomb4.exe", std::nullopt};
+  world.dialogs.answers = {"C:\\Game\\tomb4.exe", std::nullopt, "C:\\" + std::string(254, 'x')};
   EXPECT_EQ(ChooseGameExecutable(program, "C:\\Game"), "C:\\Game\\tomb4.exe");
   EXPECT_EQ(world.dialogs.requests[0].start_folder, "C:\\Game");
   EXPECT_EQ(world.dialogs.requests[0].title, "Select tomb.exe application");
   EXPECT_EQ(ChooseGameExecutable(program, ""), std::nullopt);
+  EXPECT_TRUE(world.boxes.shown.empty());
+  EXPECT_EQ(ChooseGameExecutable(program, ""), std::nullopt) << "the archive file would cut it";
+  EXPECT_EQ(world.boxes.shown.size(), 1U);
 }
 
 TEST_F(ArchivePropertiesTest, ThePreferencesFolderIsStoredAtOnceAndOnlyWhenConfirmed) {
