@@ -10,9 +10,9 @@
 namespace vellumark {
 namespace {
 
-// Matches none of the patterns that the program lists or deletes by. Short, so that a path that
-// just fits the system stays within its limit.
-constexpr std::string_view kTemporaryPrefix = "~vm~";
+// Matches none of the patterns that the program lists or deletes by. Three letters, so that a path
+// that just fits a record (256 characters) stays within the system's limit (259).
+constexpr std::string_view kTemporaryPrefix = "~v~";
 
 bool IsSameFile(FileSystem& files, const std::string& a, const std::string& b) {
   const auto identity = files.Identity(a);

@@ -122,6 +122,14 @@ TEST(ReplaceFileTest, RemovesWhatACutOffRunLeftBehind) {
   EXPECT_FALSE(world.disk.Exists(FileNameOf(leftover)));
 }
 
+TEST(ReplaceFileTest, TakesAPathThatJustFitsARecord) {
+  TestWorld world;
+  std::string path = "T:\\" + std::string(120, 'a');
+  world.files.CreateFolder(path);
+  path.append(1, '\\').resize(256, 'n');
+  EXPECT_EQ(ReplaceFile(world.files, path, "new"), FileError::kNone);
+}
+
 TEST(DeleteFileForcedTest, DeletesReadOnlyFilesAndTakesMissingOnesAsGone) {
   TestWorld world;
   world.disk.Write("f", "x");
