@@ -29,7 +29,10 @@ FileError Move(FileSystem& files, const std::string& from, const std::string& to
   if (error == FileError::kNone || error == FileError::kAlreadyExists) return error;
   if (!CopyFileReplacing(files, from, to, &error)) return error;
   error = files.Flush({to});
-  return error == FileError::kNone ? files.Delete(from) : error;
+  if (error == FileError::kNone) error = files.Delete(from);
+  // What stays where it was is not kept twice.
+  if (error != FileError::kNone && files.SameContent(from, to)) files.Delete(to);
+  return error;
 }
 
 }  // namespace
@@ -46,6 +49,10 @@ Rescue SetAside(Program& program, const std::vector<std::string>& paths) {
   for (const std::string& path : paths) {
     const FileError error = Move(program.files, path, InFolder(rescue.folder, FileNameOf(path)));
     if (error != FileError::kNone) rescue.failures.push_back({path, error});
+  }
+  if (rescue.failures.size() == paths.size()) {
+    program.files.RemoveFolder(rescue.folder);
+    rescue.folder.clear();
   }
   return rescue;
 }

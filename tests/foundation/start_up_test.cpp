@@ -143,6 +143,19 @@ TEST_F(StartUpTest, SlotsLeftInTheBackupFolderAreSetAside) {
   EXPECT_NE(world.boxes.shown[0].text.find("\"T:\\Program\\rescued\\2\""), std::string::npos);
 }
 
+TEST_F(StartUpTest, OfBackedUpSlotsThatCannotBeMovedNothingIsSaidToHaveBeen) {
+  world.disk.Write("Program/temp/savegame.3", "own savegame");
+  world.files.meanwhile = [this](const std::string& operation) {
+    world.files.FailAlways(operation == "Delete" ? "Delete" : "Rename", "temp\\savegame.3",
+                           FileError::kInUse);
+  };
+  Started();
+  EXPECT_TRUE(world.disk.Exists("Program/temp/savegame.3"));
+  EXPECT_FALSE(world.disk.Exists("Program/rescued/1/savegame.3"));
+  ASSERT_EQ(world.boxes.shown.size(), 1U);
+  EXPECT_TRUE(world.boxes.shown[0].text.starts_with("Warning: savegames left by a previous run"));
+}
+
 TEST_F(StartUpTest, BackedUpSlotsThatCannotBeMovedStay) {
   for (int call = 1;; ++call) {
     TestWorld other;
