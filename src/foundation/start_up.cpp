@@ -63,9 +63,17 @@ void TakeDefaults(Program& program) {
   program.archive.settings.MaxSavegame = kDefaultMaxSavegame;
 }
 
+// A file of which nobody can tell whether it is there must not count as missing: the defaults would
+// be written over it.
+bool HasPreferencesFile(Program& program) {
+  const AttributesResult found = program.files.Attributes(program.paths.PreferencesPath);
+  return found.error == FileError::kNone ? found.attributes.IsPlainFile()
+                                         : found.error != FileError::kNotFound;
+}
+
 void ReadPreferences(Program& program, const std::string& named_archive) {
   TakeDefaults(program);
-  if (!FileExists(program.files, program.paths.PreferencesPath)) {
+  if (!HasPreferencesFile(program)) {
     if (program.text.IsSubstitute()) {
       Tell(program, LoadMessage(kCodePageSubstitute, {program.text.CodePage()}),
            BoxIcon::kExclamation);

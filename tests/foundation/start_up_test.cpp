@@ -226,7 +226,7 @@ TEST_F(StartUpTest, CaptionsComeFirstAndTheOpeningSoundLast) {
 
 TEST_F(StartUpTest, NoFailingCallStopsARunOrCostsAFile) {
   world.WriteArchiveFile();
-  world.WritePreferences();
+  world.WritePreferences(/*sounds=*/true);
   world.AddSavegame("Archive/Slot1", 0, "A", 10);
   world.disk.Write("Program/temp/savegame.0", "left");
   const auto before = world.disk.AllFiles();
@@ -243,7 +243,10 @@ TEST_F(StartUpTest, NoFailingCallStopsARunOrCostsAFile) {
     }
     const ArchiveSettings stored = DecodeArchive(world.disk.Read("Archive.vmk"));
     EXPECT_EQ(stored.MainFolder, "T:\\Archive") << "call " << call;
-    world.WritePreferences();
+    EXPECT_TRUE(StoredPreferences().SoundEffects ||
+                std::filesystem::remove(world.disk.path() / "Program/manager.prf.bak"))
+        << "call " << call;
+    world.WritePreferences(/*sounds=*/true);
   }
 }
 
