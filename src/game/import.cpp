@@ -152,10 +152,11 @@ void ImportSavegames(Program& program) {
     Refuse(program, LoadMessage(326) + Quoted(game_folder), BoxIcon::kCritical);
     return;
   }
+  // Before the first message: another screen-shot may be linked while it is shown.
+  if (problems.not_copied.empty()) program.capture.ShotLinkedNotImported = false;
   PlaySoundEffect(program, SoundEffect::kFinished);
   Tell(program, LoadMessage(329, {WithLeadingBlank(copies.count)}));
   ScanArchive(program);
-  program.capture.ShotLinkedNotImported = false;
   ReportProblems(program, game_folder, problems);
 }
 

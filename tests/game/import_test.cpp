@@ -165,6 +165,21 @@ TEST(ImportTest, AFailedCopyStaysInTheGameFolderAndIsNamed) {
   EXPECT_NE(report.find("is still savegame.5"), std::string::npos) << report;
 }
 
+TEST(ImportTest, AScreenShotThatIsNotInTheArchiveIsStillRemembered) {
+  ImportWorld linked_meanwhile;
+  linked_meanwhile.boxes.while_waiting = [&linked_meanwhile] {
+    linked_meanwhile.program.capture.ShotLinkedNotImported = true;
+  };
+  ImportSavegames(linked_meanwhile.program);
+  EXPECT_TRUE(linked_meanwhile.program.capture.ShotLinkedNotImported);
+
+  ImportWorld not_copied;
+  not_copied.program.capture.ShotLinkedNotImported = true;
+  not_copied.files.FailAlways("Copy", "shot5.jpg", FileError::kDiskFull);
+  ImportSavegames(not_copied.program);
+  EXPECT_TRUE(not_copied.program.capture.ShotLinkedNotImported);
+}
+
 TEST(ImportTest, ASlotThatWasNotCopiedWholeKeepsItsNumberNoteAndPicture) {
   for (const std::string failing : {"savegame.2", "note2.txt", "savegame.5", "shot5.jpg"}) {
     ImportWorld world;
