@@ -1,6 +1,7 @@
 // Message boxes, file dialogs, the clipboard, the shell and sounds by Qt.
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -23,6 +24,9 @@ namespace vellumark {
 
 class QtServicesTest : public QObject {
   Q_OBJECT
+
+ public:
+  Q_INVOKABLE void Opened(const QUrl& document) { opened_ = document; }
 
  private slots:
   void MessageBoxesAnswerKeys_data();
@@ -52,6 +56,7 @@ class QtServicesTest : public QObject {
   }
 
   testing::TestWorld world_;
+  QUrl opened_;
 };
 
 void QtServicesTest::MessageBoxesAnswerKeys_data() {
@@ -172,6 +177,14 @@ void QtServicesTest::TheShellRefusesWhatIsMissing() {
   QTRY_VERIFY(world_.disk.Exists("Game/done") && !world_.disk.Read("Game/done").empty());
   QCOMPARE(world_.disk.Read("Game/done"),
            "argument " + (world_.disk.path() / "Game").string() + "\n");
+
+  // On a disk without permissions every file is executable.
+  world_.disk.Write("help.txt", "a text");
+  std::filesystem::permissions(world_.disk.path() / "help.txt", std::filesystem::perms::owner_all);
+  QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Opened");
+  QVERIFY(QtShell().Open((world_.disk.path() / "help.txt").string(), "", "", false));
+  QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+  QCOMPARE(opened_.fileName(), QStringLiteral("help.txt"));
 }
 
 void QtServicesTest::SoundsNeedNeitherDeviceNorModule() {

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_shell.h"
 
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QUrl>
@@ -21,6 +22,14 @@ QProcessEnvironment EnvironmentFor(const QString& program) {
   return environment;
 }
 
+// The permission alone tells nothing: on a disk without permissions every file has it.
+bool IsNativeProgram(const QFileInfo& info) {
+  QFile file(info.filePath());
+  if (!info.isExecutable() || !file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray beginning = file.read(4);
+  return beginning == "\177ELF" || beginning.startsWith("#!");
+}
+
 }  // namespace
 
 bool QtShell::Open(const std::string& document, const std::string& parameters,
@@ -29,7 +38,7 @@ bool QtShell::Open(const std::string& document, const std::string& parameters,
   if (document.empty() || !file.exists()) return false;
 
   const bool for_wine = file.isFile() && IsWindowsProgram(file.filePath());
-  if (!for_wine && !(file.isFile() && file.isExecutable())) {
+  if (!for_wine && !(file.isFile() && IsNativeProgram(file))) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file.filePath()));
   }
 
