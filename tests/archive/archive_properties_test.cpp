@@ -68,6 +68,8 @@ TEST_F(ArchivePropertiesTest, TheFirstMissingFieldIsNamedAndNothingChanges) {
   EXPECT_EQ(refusal(), "You must set [Tomb.exe full path]");
   fields.executable = "C:\\tomb4.exe";
   EXPECT_NE(refusal().find("cannot be used"), std::string::npos) << "no folder can have that name";
+  fields.base_name = "a\tb";
+  EXPECT_NE(refusal().find("cannot be used"), std::string::npos) << "pasted";
   EXPECT_EQ(program.archive.settings, before);
   EXPECT_FALSE(program.archive.ArchiveChanged);
 }
