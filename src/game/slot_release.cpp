@@ -5,6 +5,7 @@
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/paths.h"
+#include "foundation/strings.h"
 #include "savegames/slot_listing.h"
 #include "savegames/slot_names.h"
 
@@ -42,10 +43,11 @@ class Releaser {
 
   // A note or screen-shot that stayed behind alone would become that of the slot's next savegame.
   bool Arrived(int slot) const {
-    return std::ranges::none_of(copies_.failures, [&](const Failure& failure) {
-      return failure.path == InGame(SavegameFileName(slot)) ||
-             failure.path == InGame(NoteFileName(slot)) ||
-             failure.path == InGame(ShotFileName(slot));
+    return std::ranges::none_of(copies_.failures, [slot](const Failure& failure) {
+      const std::string name = FileNameOf(failure.path);
+      return EqualsIgnoringAsciiCase(name, SavegameFileName(slot)) ||
+             EqualsIgnoringAsciiCase(name, NoteFileName(slot)) ||
+             EqualsIgnoringAsciiCase(name, ShotFileName(slot));
     });
   }
 

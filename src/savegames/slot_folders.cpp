@@ -37,7 +37,11 @@ SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::st
   };
 
   const Listing listing = files.List(InFolder(source, "*"));
-  for (const Slot& slot : SlotsOf(listing, max_savegame).slots) {
+  const SlotListing found = SlotsOf(listing, max_savegame);
+  for (const std::string& name : found.ambiguous) {
+    copies.failures.push_back({InFolder(source, name), FileError::kAmbiguous});
+  }
+  for (const Slot& slot : found.slots) {
     ++copies.count;
     copies.HighestCopiedSlot = static_cast<std::int16_t>(slot.number);
     if (!copy(SavegameFileName(slot.number))) continue;

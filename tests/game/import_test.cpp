@@ -6,6 +6,7 @@
 
 #include "archive/archive_file.h"
 #include "archive/scan.h"
+#include "support/host_paths.h"
 #include "support/test_world.h"
 
 namespace vellumark {
@@ -189,6 +190,19 @@ TEST(ImportTest, ASlotThatWasNotCopiedWholeKeepsItsNumberNoteAndPicture) {
     EXPECT_TRUE(world.disk.Exists(second ? "Game/savegame.2" : "Game/savegame.5")) << failing;
     EXPECT_TRUE(world.disk.Exists(second ? "Game/note2.txt" : "Game/shot5.jpg")) << failing;
   }
+}
+
+TEST(ImportTest, ASlotWithANameThatStandsTwiceStaysAndIsNamed) {
+  if (!testing::DiskTellsCaseApart()) GTEST_SKIP() << "no folder can hold such names";
+  ImportWorld world;
+  world.disk.Write("Game/SAVEGAME.2", "other");
+  world.disk.Write("Game/Shot5.JPG", "other");
+  ImportSavegames(world.program);
+  EXPECT_EQ(world.disk.Names("Game").size(), 8U) << "all but savegame.0";
+  const std::string& report = world.boxes.shown.back().text;
+  EXPECT_TRUE(report.starts_with("Warning: not everything could be imported.")) << report;
+  EXPECT_NE(report.find("SAVEGAME.2\": the name exists twice"), std::string::npos) << report;
+  EXPECT_EQ(report.find("could not be deleted"), std::string::npos) << report;
 }
 
 TEST(ImportTest, ASavegameThatTheGameWritesMeanwhileIsNotDeleted) {
