@@ -1,21 +1,8 @@
 #include "archive/archive_file.h"
 
-#include <algorithm>
-
 #include "foundation/record.h"
 
 namespace vellumark {
-namespace {
-
-// The text fields of an archive file hold paths and a name: printable characters, and perhaps NULs
-// where a field was never set. Anything else was written by something else.
-bool LooksLikeArchive(std::string_view record) {
-  return std::ranges::none_of(record.substr(0, 4 * kTextFieldSize), [](char byte) {
-    return static_cast<unsigned char>(byte) < 0x20 && byte != '\0';
-  });
-}
-
-}  // namespace
 
 ArchiveSettings DecodeArchive(std::string_view bytes) {
   RecordReader reader(bytes);
@@ -47,7 +34,7 @@ ArchiveRead ReadArchiveFile(FileSystem& files, const std::string& path) {
   result.settings = DecodeArchive(read.bytes);
   if (read.error != FileError::kNone || read.bytes.size() < kArchiveRecordSize) {
     result.state = ArchiveReadState::kInPart;
-  } else if (!LooksLikeArchive(read.bytes)) {
+  } else if (!AreFieldText(std::string_view(read.bytes).substr(0, 4 * kTextFieldSize))) {
     result.state = ArchiveReadState::kNotArchive;
   }
   return result;

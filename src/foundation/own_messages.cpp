@@ -211,6 +211,7 @@ constexpr TableMessage kOwnMessages[] = {
 
     {kReasonNotWhole, "it is too short"},
     {kReasonNotAnArchive, "it holds no archive settings"},
+    {kReasonNotPreferences, "it holds no preferences of Vellumark"},
     {kReasonNotFound, "it does not exist"},
     {kReasonAlreadyExists, "the name exists already"},
     {kReasonAccessDenied, "it is read-only, or access is denied"},

@@ -126,6 +126,7 @@ enum OwnMessage : int {
   // Reasons, each a part of a sentence
   kReasonNotWhole,
   kReasonNotAnArchive,
+  kReasonNotPreferences,
   kReasonNotFound,
   kReasonAlreadyExists,
   kReasonAccessDenied,

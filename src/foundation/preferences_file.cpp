@@ -17,6 +17,14 @@ void Take(const std::optional<Value>& read, Value& field) {
   if (read) field = *read;
 }
 
+// As long as a record, but written by something else.
+bool IsForeign(std::string_view bytes) {
+  constexpr std::size_t kShotFolderOffset = 258;
+  return bytes.size() == kPreferencesRecordSize &&
+         !(AreFieldText(bytes.substr(0, kTextFieldSize)) &&
+           AreFieldText(bytes.substr(kShotFolderOffset, kTextFieldSize)));
+}
+
 }  // namespace
 
 void DecodePreferences(std::string_view bytes, Preferences& preferences) {
@@ -47,12 +55,14 @@ std::string EncodePreferences(const Preferences& preferences) {
 void ReadPreferencesFile(Program& program) {
   const std::string& path = program.paths.PreferencesPath;
   const ReadResult read = program.files.Read(path, kPreferencesRecordSize);
-  DecodePreferences(read.bytes, program.preferences);
+  const bool foreign = IsForeign(read.bytes);
+  if (!foreign) DecodePreferences(read.bytes, program.preferences);
 
   program.preferences_file.read_whole =
-      read.error == FileError::kNone && read.bytes.size() == kPreferencesRecordSize;
+      !foreign && read.error == FileError::kNone && read.bytes.size() == kPreferencesRecordSize;
   if (!program.preferences_file.read_whole) {
-    Tell(program, LoadMessage(kPreferencesNotReadWhole, {Quoted(path), ReasonFor(read.error)}),
+    const std::string reason = foreign ? LoadMessage(kReasonNotPreferences) : ReasonFor(read.error);
+    Tell(program, LoadMessage(kPreferencesNotReadWhole, {Quoted(path), reason}),
          BoxIcon::kExclamation);
   }
 }

@@ -17,8 +17,8 @@ constexpr std::size_t kPreferencesRecordSize = 524;
 void DecodePreferences(std::string_view bytes, Preferences& preferences);
 std::string EncodePreferences(const Preferences& preferences);
 
-// Reads PreferencesPath into the preferences. When the file is short or cannot be read, what could
-// not be read keeps its default and the user is told.
+// Reads PreferencesPath into the preferences. When the file is short, foreign or cannot be read,
+// what could not be read keeps its default and the user is told.
 void ReadPreferencesFile(Program& program);
 
 // Writes the preferences to PreferencesPath; a file that had not been read whole is kept as

@@ -1,9 +1,16 @@
 #include "foundation/record.h"
 
+#include <algorithm>
+
 #include "foundation/file_utilities.h"
 #include "foundation/strings.h"
 
 namespace vellumark {
+
+bool AreFieldText(std::string_view bytes) {
+  return std::ranges::none_of(
+      bytes, [](char byte) { return static_cast<unsigned char>(byte) < 0x20 && byte != '\0'; });
+}
 
 std::optional<std::string> RecordReader::Text() {
   if (rest_.size() < kTextFieldSize) {

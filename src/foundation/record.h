@@ -14,6 +14,10 @@ namespace vellumark {
 
 constexpr std::size_t kTextFieldSize = 256;
 
+// False for bytes that the program writes into no text field: control characters. A NUL may stand
+// where a field was never set.
+bool AreFieldText(std::string_view bytes);
+
 // Takes the fields of a record one after the other. A field that the bytes do not hold whole comes
 // back empty, and so do all that follow.
 class RecordReader {

@@ -186,6 +186,16 @@ TEST_F(StartUpTest, AShortPreferencesFileIsToldAndKeptBeforeItIsWritten) {
   EXPECT_EQ(world.disk.Read("Program/manager.prf").size(), 524U);
 }
 
+TEST_F(StartUpTest, AForeignPreferencesFileIsKeptBeforeItIsWritten) {
+  const std::string foreign = "[General]\r\n" + std::string(3000, 'x');
+  world.disk.Write("My.prf", foreign);
+  Program program = Started("T:\\My.prf");
+  EXPECT_EQ(program.preferences.ShotFolder, "T:\\Program") << "the default";
+  EXPECT_EQ(world.boxes.shown.size(), 1U);
+  ShutDown(program);
+  EXPECT_EQ(world.disk.Read("My.prf.bak"), foreign);
+}
+
 TEST_F(StartUpTest, AShortArchiveFileIsWrittenOnlyWhenItWasChangedAndKeptThen) {
   world.WriteArchiveFile();
   world.WritePreferences();
