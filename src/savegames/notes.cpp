@@ -9,9 +9,7 @@ namespace vellumark {
 namespace {
 
 // True for a file that goes on after its note, as one that another editor has written.
-bool HoldsMoreThanANote(FileSystem& files, const std::string& path) {
-  const ReadResult read = files.Read(path, FileSystem::kWholeFile);
-  const std::string_view bytes = read.bytes;
+bool HoldsMoreThanANote(std::string_view bytes) {
   const auto end = bytes.find('\r');
   return end != std::string_view::npos && bytes.find_first_not_of("\r\n", end) != bytes.npos;
 }
@@ -27,7 +25,9 @@ std::string ReadNoteFile(FileSystem& files, const std::string& path) {
 }
 
 FileError WriteNoteFile(FileSystem& files, const std::string& path, std::string_view text) {
-  if (HoldsMoreThanANote(files, path) && !KeepBackupOf(files, path)) return FileError::kInputOutput;
+  const ReadResult old = files.Read(path, FileSystem::kWholeFile);
+  if (old.error != FileError::kNone && old.error != FileError::kNotFound) return old.error;
+  if (HoldsMoreThanANote(old.bytes) && !KeepBackupOf(files, path)) return FileError::kInputOutput;
   return ReplaceFile(files, path, NoteToStore(text) + "\r\n");
 }
 

@@ -18,7 +18,8 @@ std::string DecodeNote(std::string_view bytes);
 std::string ReadNoteFile(FileSystem& files, const std::string& path);
 
 // Makes or replaces a note file. Carriage returns of the text become 0x8D. A file that holds more
-// than the note that can be read of it is kept as `<name>.bak` first.
+// than the note that can be read of it is kept as `<name>.bak` first; one that cannot be read stays
+// as it is.
 FileError WriteNoteFile(FileSystem& files, const std::string& path, std::string_view text);
 
 // Between the stored form and the text of a text box, carriage return for 0x8D.

@@ -80,6 +80,14 @@ TEST(NotesTest, KeepWhatAnotherEditorWroteBehindTheFirstLine) {
   EXPECT_FALSE(world.disk.Exists("Game/note3.txt.bak2")) << "a note of one record needs none";
 }
 
+TEST(NotesTest, ANoteThatCannotBeReadIsNotReplaced) {
+  TestWorld world;
+  world.disk.Write("Game/note3.txt", "unread\r\n");
+  world.files.FailAlways("Read", "\\note3.txt", FileError::kAccessDenied);
+  EXPECT_EQ(WriteNoteFile(world.files, "T:\\Game\\note3.txt", "new"), FileError::kAccessDenied);
+  EXPECT_EQ(world.disk.Read("Game/note3.txt"), "unread\r\n");
+}
+
 TEST(SlotsOfTest, FindsWhatTestingEachNumberWouldFind) {
   TestWorld world;
   for (const char* name : {"SAVEGAME.3", "savegame.10", "savegame.16", "savegame.03", "savegame.",
