@@ -40,12 +40,20 @@ class Builder {
       TakeNumberedSubfolders();
     }
     if (!request_.game_folder.empty()) {
-      TakeFolder(*files_.OpenFolder(request_.game_folder), request_.game_folder, 0);
+      TakeFolder(*files_.OpenFolder(request_.game_folder), request_.game_folder,
+                 Lowered(request_.game_folder), 0);
     }
     return std::move(result_);
   }
 
  private:
+  // A folder in lower case, unless that is another one: on a disk that tells letter case apart, a
+  // folder on the way may stand beside one that differs from it by case only.
+  std::string Lowered(const std::string& folder) {
+    std::string lower = text_.LowerPath(folder);
+    return files_.Identity(lower) == files_.Identity(folder) ? lower : folder;
+  }
+
   // Counts a folder of the archive; false when the table of folders is full.
   bool CountFolder() {
     Catalogue& catalogue = result_.catalogue;
@@ -62,6 +70,7 @@ class Builder {
     if (main_folder.empty()) return;
     const auto main = files_.OpenFolder(main_folder);
     NoteListingFailure(main->Contents(), main_folder);
+    const std::string lower_main = Lowered(main_folder);
     for (const FolderEntry& entry : main->Contents().entries) {
       if (!entry.folder || entry.name.starts_with('.')) continue;
       const std::string folder = InFolder(main_folder, entry.name);
@@ -72,7 +81,8 @@ class Builder {
       const AttributesResult found = files_.Attributes(folder);
       if (found.error != FileError::kNone || !found.attributes.IsBareFolder()) continue;
       if (!CountFolder()) return;
-      TakeFolder(*main->OpenFolder(entry), folder, result_.catalogue.FolderCount);
+      TakeFolder(*main->OpenFolder(entry), folder,
+                 InFolder(lower_main, text_.LowerPath(entry.name)), result_.catalogue.FolderCount);
     }
   }
 
@@ -87,7 +97,9 @@ class Builder {
       by_name.emplace(text_.LowerPath(entry.name), &entry);
     }
 
-    const std::string stem = text_.LowerPath(first);
+    const std::string main_folder = FolderOf(first);
+    const std::string stem =
+        Lowered(main_folder) + text_.LowerPath(first).substr(main_folder.size());
     for (int k = 1;; ++k) {
       const std::string folder = stem + std::to_string(k);
       const auto found = by_name.find(FileNameOf(folder));
@@ -98,11 +110,13 @@ class Builder {
       }
       if (!CountFolder()) return;
       if (!found->second->folder) continue;  // a file of that name keeps its number
-      TakeFolder(*parent->OpenFolder(*found->second), folder, result_.catalogue.FolderCount);
+      TakeFolder(*parent->OpenFolder(*found->second), folder, folder,
+                 result_.catalogue.FolderCount);
     }
   }
 
-  void TakeFolder(FolderReader& reader, const std::string& folder, std::int16_t folder_number) {
+  void TakeFolder(FolderReader& reader, const std::string& folder, const std::string& lower_folder,
+                  std::int16_t folder_number) {
     const Listing& listing = reader.Contents();
     NoteListingFailure(listing, folder);
     const SlotListing found = SlotsOf(listing, request_.settings.MaxSavegame);
@@ -114,7 +128,6 @@ class Builder {
         result_.leftovers.push_back(InFolder(folder, entry.name));
       }
     }
-    const std::string lower_folder = text_.LowerPath(folder);
     for (const Slot& slot : found.slots) {
       if (result_.catalogue.entries.size() == Catalogue::kMostEntries) {
         result_.table_full = true;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "savegames/notes.h"
+#include "savegames/savegame_header.h"
 #include "support/host_paths.h"
 #include "support/test_world.h"
 
@@ -41,7 +43,6 @@ TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapWhateverTheirCase) {
   world.AddSavegame("Archive/Slot2", 0, "Beta", 14);
   world.AddSavegame("Archive/Slot2", 16, "Beyond the maximum", 15);
   world.AddSavegame("Archive/Slot4", 0, "After the gap", 16);
-  world.disk.Write("GAME/x", "");
   world.AddSavegame("Game", 5, "Gamma", 20);
   world.disk.Write("Game/shot5.jpg", "x");
   ScanArchive(program);
@@ -138,6 +139,24 @@ TEST_F(ScanTest, ListsAndNamesASavegameThatCannotBeRead) {
   EXPECT_NE(world.boxes.shown[0].text.find("\"t:\\archive\\slot1\\savegame.0\": it is read-only"),
             std::string::npos)
       << world.boxes.shown[0].text;
+}
+
+TEST_F(ScanTest, PathsLeadToTheListedFilesAlsoBesideAFolderThatDiffersByCaseOnly) {
+  if (!testing::DiskTellsCaseApart()) GTEST_SKIP() << "no folder can hold such names";
+  world.AddSavegame("Archive/Slot1", 0, "A", 1);
+  world.disk.Write("Archive/Slot1/note0.txt", "A\r\n");
+  world.AddSavegame("archive/slot1", 0, "Another", 2);
+  world.AddSavegame("Game", 0, "G", 3);
+  world.disk.MakeFolder("GAME");
+  for (const bool all_subfolders : {false, true}) {
+    program.preferences.ScanAllSubfolders = all_subfolders;
+    ScanArchive(program);
+    ASSERT_EQ(program.catalogue.EntryCount(), 2);
+    for (const SavegameEntry& entry : program.catalogue.entries) {
+      EXPECT_EQ(ReadSavegameHeader(world.files, entry.SavegamePath).level_name, entry.LevelName);
+    }
+    EXPECT_EQ(ReadNoteFile(world.files, program.catalogue.entries[0].NotePath), "A");
+  }
 }
 
 TEST_F(ScanTest, LeavesOutAndReportsNamesThatDifferByCaseOnly) {
