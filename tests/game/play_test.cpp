@@ -181,6 +181,25 @@ TEST(PlayTest, ASecondPlayKeepsTheBackupAndSetsAsideWhatTheGameSaved) {
   EXPECT_EQ(world.boxes.shown.size(), 1U);
 }
 
+TEST(PlayTest, RestoresAndSetsAsideSlotsThatAreLinks) {
+  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
+  PlayWorld world;
+  namespace fs = std::filesystem;
+  const fs::path game = world.disk.path() / "Game";
+  const auto make_link = [&](const char* name) {
+    fs::rename(game / name, world.disk.path() / "Program" / name);
+    fs::create_symlink(fs::path("../Program") / name, game / name);
+  };
+  make_link("savegame.3");
+  const Files own = world.FilesIn("Game");
+  world.Play({0});
+  world.disk.Write("Game/savegame.7", SavegameBytes("Played", 30));
+  make_link("savegame.7");
+  world.Restore(BoxAnswer::kYes);
+  EXPECT_EQ(world.FilesIn("Game"), own);
+  EXPECT_EQ(world.disk.Read("Program/rescued/1/savegame.7"), SavegameBytes("Played", 30));
+}
+
 TEST(PlayTest, RestoresTheOwnSlotsAsOftenAsAsked) {
   PlayWorld world;
   const Files own = world.FilesIn("Game");

@@ -42,6 +42,11 @@ bool AreTheSame(const std::string& a, const std::string& b) {
          first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
+bool IsLink(const std::string& host) {
+  struct stat status = {};
+  return lstat(host.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 // Changes nothing but the letter case of a name that the folder holds once.
 int RenameToOtherCase(const NamePlace& place, const std::string& new_name) {
   if (place.name == new_name) return 0;
@@ -264,6 +269,10 @@ FileError PosixFileSystem::Rename(const std::string& from, const std::string& to
   const NamePlace target = lookup_.FindPlace(checked.path);
   if (target.error != FileError::kNone) return target.error;
   if (target.ambiguous) return FileError::kAmbiguous;
+  // In another folder its path may lead nowhere.
+  if (IsLink(source.Host()) && !AreTheSame(source.folder, target.folder)) {
+    return FileError::kAccessDenied;
+  }
 
   if (!target.exists) {
     return FileErrorFromNumber(RenameToFreeName(source.Host(), target.Host()));
