@@ -124,12 +124,14 @@ bool PutOwnSlotsAside(Program& program, const std::string& game_folder, bool ano
   return true;
 }
 
-// The list goes on showing the player's own slots, which are in the backup now.
+// The list goes on showing the player's own slots, which are in the backup now. In a later play its
+// entries are there already, unless a restore has led them back to the game folder.
 void ListBackup(Program& program, const std::string& game_folder) {
+  const std::string& backup = program.play.BackupFolder;
   for (SavegameEntry& entry : program.catalogue.entries) {
     if (entry.FolderNumber != 0) continue;
-    PointIntoFolder(program.text, entry, game_folder, program.play.BackupFolder,
-                    Occurrences::kFirst);
+    if (SamePath(program.text, FolderOf(entry.SavegamePath), backup)) continue;
+    PointIntoFolder(program.text, entry, game_folder, backup, Occurrences::kFirst);
   }
 }
 
@@ -198,7 +200,7 @@ void PlaySelectedSavegames(Program& program) {
       safe = PutOwnSlotsAside(program, game_folder, another_folder, report);
     }
     if (safe) filled = FillSlots(program, indices, game_folder, report);
-    if (first && play.ExaminedInGameFolder) ListBackup(program, game_folder);
+    if (play.ExaminedInGameFolder) ListBackup(program, game_folder);
   }
   report.Show(program);
   // The list shows the backup's slots as the game folder's: those of another folder by now.

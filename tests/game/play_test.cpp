@@ -221,6 +221,7 @@ TEST(PlayTest, RestoresTheOwnSlotsAsOftenAsAsked) {
   world.AddSavegame("Game", 4, "Own", 40);
   world.Play({1});
   EXPECT_EQ(world.disk.Read("Program/rescued/2/savegame.4"), SavegameBytes("Own", 40, 4));
+  EXPECT_EQ(world.program->catalogue.entries.back().SavegamePath, "T:\\Program\\temp\\savegame.3");
   world.Restore(BoxAnswer::kYes);
   EXPECT_EQ(world.FilesIn("Game"), own);
 }
