@@ -18,10 +18,10 @@ namespace {
 
 constexpr std::size_t kLongestTitle = 255;
 
-// Why nothing was started, once a run: what is missing stays missing.
+// Why nothing was started, once for the same executable: what is missing stays missing.
 void TellNotStarted(Program& program, const std::string& executable) {
-  if (program.play.told_not_started) return;
-  program.play.told_not_started = true;
+  if (program.play.told_not_started == executable) return;
+  program.play.told_not_started = executable;
 
   const std::string missing = program.shell.MissingFor(program.files.HostPath(executable));
   Tell(program,

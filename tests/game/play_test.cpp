@@ -442,6 +442,9 @@ TEST(RunningGameTest, OnlyTheGameItselfIsStarted) {
   EXPECT_EQ(world.shell.opened.size(), 2U);
   ASSERT_EQ(world.boxes.shown.size(), 1U) << "told once";
   EXPECT_NE(world.boxes.shown[0].text.find("needs Wine"), std::string::npos);
+  world.program->archive.settings.GameExecutable = "T:\\Elsewhere\\tomb4.exe";
+  StartGame(*world.program);
+  EXPECT_EQ(world.boxes.shown.size(), 2U) << "another program, perhaps for another reason";
 }
 
 // Every savegame and picture of the archive and of the own slots, and what the game saved.
