@@ -14,6 +14,7 @@
 #include "platform/file_dialogs.h"
 #include "program.h"
 #include "savegames/shot_folder.h"
+#include "savegames/slot_names.h"
 
 namespace vellumark {
 namespace {
@@ -38,9 +39,13 @@ std::string AsFileName(std::string name) {
   return name;
 }
 
-std::string ProposedName(const CaptureState& capture) {
-  const bool has_savegame = !capture.SelectedLevelName.empty() || capture.SelectedCounter != 0;
-  if (capture.SelectedSlot == -1 || !has_savegame) return LoadMessage(113);
+std::string ProposedName(Program& program) {
+  const CaptureState& capture = program.capture;
+  const int slot = capture.SelectedSlot;
+  const bool has_savegame =
+      slot != -1 &&
+      FileExists(program.files, InFolder(capture.game_folder, SavegameFileName(slot)));
+  if (!has_savegame) return LoadMessage(113);
   return AsFileName(capture.SelectedLevelName + "_" + std::to_string(capture.SelectedCounter));
 }
 
@@ -65,7 +70,7 @@ bool SaveClipboardAsJpeg(Program& program, const std::string& path, FileError* w
 
 void SaveCaptureElsewhere(Program& program) {
   const std::string folder = FolderOf(program.preferences.ShotFolder);
-  const std::string proposed = ProposedName(program.capture) + LoadMessage(114);
+  const std::string proposed = ProposedName(program) + LoadMessage(114);
   PlaySoundEffect(program, SoundEffect::kOpening);
   const auto path = program.file_dialogs.Save({.title = LoadMessage(111),
                                                .filter = LoadMessage(112),

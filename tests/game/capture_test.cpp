@@ -363,6 +363,7 @@ TEST_F(CaptureTest, SavesThePictureUnderAProposedName) {
   world.disk.MakeFolder("Shots");
   program.preferences.ShotFolder = "T:\\Shots\\last.jpg";
   world.AddSavegame("Game", 5, "North: \"who\"?", -3);
+  world.AddSavegame("Game", 6, "", 0);
   OpenDialog();
   const auto proposal = [this](int slot) {
     ChooseSlot(program, slot);
@@ -372,12 +373,13 @@ TEST_F(CaptureTest, SavesThePictureUnderAProposedName) {
   EXPECT_EQ(proposal(-1), "T:\\Shots\\screen-shot.jpg");
   EXPECT_EQ(proposal(1), "T:\\Shots\\screen-shot.jpg");
   EXPECT_EQ(proposal(2), "T:\\Shots\\South_112.jpg");
+  EXPECT_EQ(proposal(6), "T:\\Shots\\_0.jpg");
   EXPECT_EQ(proposal(5), "T:\\Shots\\North_ _who___-3.jpg");
   EXPECT_EQ(world.dialogs.requests.back().start_folder, "T:\\Shots");
   EXPECT_TRUE(world.dialogs.requests.back().confirm_overwrite);
   EXPECT_EQ(program.preferences.ShotFolder, "T:\\Shots\\last.jpg");
   EXPECT_TRUE(world.disk.Names("Shots").empty());
-  EXPECT_EQ(world.sounds.played.size(), 4U);
+  EXPECT_EQ(world.sounds.played.size(), 5U);
 
   world.dialogs.answers = {"T:\\here.jpg"};
   SaveCaptureElsewhere(program);
