@@ -10,9 +10,9 @@
 namespace vellumark {
 namespace {
 
-// Matches none of the patterns that the program lists or deletes by. Three letters, so that a path
-// that just fits a record (256 characters) stays within the system's limit (259).
-constexpr std::string_view kTemporaryPrefix = "~v~";
+// Matches none of the patterns that the program lists or deletes by. It takes the place of a name's
+// first letters, so that a path that just fits the system stays within its limit.
+constexpr std::string_view kTemporaryPrefix = "~vm~";
 
 bool IsSameFile(FileSystem& files, const std::string& a, const std::string& b) {
   const auto identity = files.Identity(a);
@@ -122,7 +122,10 @@ FileError ReplaceFile(FileSystem& files, const std::string& path, std::string_vi
 
 std::string TemporaryNameFor(const std::string& path) {
   const std::string name = FileNameOf(path);
-  return path.substr(0, path.size() - name.size()) + std::string(kTemporaryPrefix) + name;
+  const std::size_t replaced = IsTemporaryName(name) ? 0 : kTemporaryPrefix.size();
+  return path.substr(0, path.size() - name.size())
+      .append(kTemporaryPrefix)
+      .append(name.substr(std::min(replaced, name.size())));
 }
 
 bool IsTemporaryName(std::string_view name) {
