@@ -129,6 +129,8 @@ constexpr TableMessage kOwnMessages[] = {
      "were:"},
     {kNoteStillShown,
      "The note that you have typed is still in the window: you can try again or copy it."},
+    {kUnseenNoteKept,
+     "The savegame had another note than the one that was shown. It is kept in ~1"},
 
     {kFolderNotOpened, "The folder ~1 cannot be opened: ~2."},
     {kFolderNotMade, "The folder ~1 could not be created: ~2."},

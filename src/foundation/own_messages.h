@@ -65,6 +65,7 @@ enum OwnMessage : int {
   kNoPicture,          // ~1 file; question
   kChangesNotWritten,  // followed by failure lines
   kNoteStillShown,     // no values
+  kUnseenNoteKept,     // ~1 kept copy
 
   // Folder chooser
   kFolderNotOpened,           // ~1 folder, ~2 reason

@@ -9,6 +9,7 @@
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
+#include "foundation/record.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
@@ -59,14 +60,28 @@ bool IsPossibleCounter(Program& program, std::optional<std::int64_t> counter) {
 // entry as they were.
 using Failures = std::vector<Failure>;
 
-bool StoreNote(Program& program, const SavegameChanges& changes, Failures& failures) {
+// Keeps a note that came into the file behind the dialog's back before another takes its place.
+// False when that failed; `kept` is where it is now, empty when there was none.
+bool KeepUnseenNote(Program& program, const SavegameChanges& changes, std::string& kept) {
+  const std::string& path = EntryAt(program, changes.index).NotePath;
+  const std::string note = ReadNoteFile(program.files, path);
+  if (note.empty() || note == changes.shown_note || note == changes.note->stored) return true;
+  const auto backup = KeepBackupOf(program.files, path);
+  if (backup) kept = *backup;
+  return backup.has_value();
+}
+
+bool StoreNote(Program& program, const SavegameChanges& changes, Failures& failures,
+               std::string& kept) {
   SavegameEntry& entry = EntryAt(program, changes.index);
   // The list may show another note than the file holds by now, which the user has not touched.
   const bool stale = !changes.note && FileExists(program.files, entry.NotePath) &&
                      ReadNoteFile(program.files, entry.NotePath) != entry.NoteText;
   if (stale) return true;
   const std::string note = changes.note ? changes.note->stored : entry.NoteText;
-  const FileError error = WriteNoteFile(program.files, entry.NotePath, note);
+  const bool safe = !changes.note || KeepUnseenNote(program, changes, kept);
+  const FileError error =
+      safe ? WriteNoteFile(program.files, entry.NotePath, note) : FileError::kInputOutput;
   if (error != FileError::kNone) {
     failures.push_back({entry.NotePath, error});
     return false;
@@ -98,7 +113,11 @@ void StoreCounter(Program& program, int index, std::int16_t counter, Failures& f
   }
 }
 
-void TellFailures(Program& program, const Failures& failures, bool keeps_note) {
+void TellOutcome(Program& program, const Failures& failures, bool keeps_note,
+                 const std::string& kept) {
+  if (!kept.empty()) {
+    Tell(program, LoadMessage(kUnseenNoteKept, {Quoted(kept)}), BoxIcon::kExclamation);
+  }
   if (failures.empty()) return;
   std::string text = LoadMessage(kChangesNotWritten) + DescribeFailures(failures);
   if (keeps_note) text += kLineBreak + LoadMessage(kNoteStillShown);
@@ -152,7 +171,8 @@ ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& chan
   if (!IsPossibleCounter(program, counter)) return ChangesAnswer::kRefused;
 
   Failures failures;
-  const bool keeps_note = !StoreNote(program, changes, failures) && changes.note;
+  std::string kept;
+  const bool keeps_note = !StoreNote(program, changes, failures, kept) && changes.note;
   if (changes.remove_shot) RemoveScreenShot(program, changes.index, failures);
   if (counter) {
     StoreCounter(program, changes.index, static_cast<std::int16_t>(*counter), failures);
@@ -161,7 +181,7 @@ ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& chan
   program.main_window.ReplaceLine(changes.index, FormatListLine(program, changes.index));
   program.archive.ArchiveChanged = true;
   SelectOnly(program, changes.index);
-  TellFailures(program, failures, keeps_note);
+  TellOutcome(program, failures, keeps_note, kept);
   return keeps_note ? ChangesAnswer::kNoteNotWritten : ChangesAnswer::kDone;
 }
 

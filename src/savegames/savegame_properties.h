@@ -42,6 +42,7 @@ bool ChooseScreenShot(Program& program, int index, PictureTest is_picture);
 
 struct SavegameChanges {
   int index = 0;
+  std::string shown_note{};         // the note that the dialog was opened with, in its stored form
   std::optional<TypedNote> note{};  // nothing while the user has not changed it
   std::string counter{};            // as typed; what is no number leaves the counter as it is
   bool remove_shot = false;
@@ -55,7 +56,8 @@ enum class ChangesAnswer {
 
 // Writes the note, removes the screen-shot when asked to, writes a changed counter, and brings the
 // list and the details in step. A file that cannot be changed keeps what it held, and so does its
-// field in the catalogue; all such files are told in one message at the end.
+// field in the catalogue; all such files are told in one message at the end. So is a note of the
+// file that the dialog has not shown, and which is kept as `<name>.bak` under a changed one.
 ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& changes);
 
 }  // namespace vellumark

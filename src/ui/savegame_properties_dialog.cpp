@@ -106,6 +106,7 @@ void SavegamePropertiesDialog::BuildLayout() {
 void SavegamePropertiesDialog::ImpostaValori() {
   const SavegameProperties shown = PrepareSavegameProperties(program());
   index_ = shown.index;
+  shown_note_ = shown.note;
   note_->ShowNote(shown.note);
   path_->setText(ToText(shown.path));
   level_->setText(ToText(shown.level));
@@ -121,6 +122,7 @@ void SavegamePropertiesDialog::Browse() {
 
 void SavegamePropertiesDialog::Accept() {
   const SavegameChanges changes{.index = index_,
+                                .shown_note = shown_note_,
                                 .note = note_->ChangedNote(),
                                 .counter = FromText(counter_->text()),
                                 .remove_shot = remove_shot_->isChecked()};

@@ -2,6 +2,8 @@
 #ifndef VELLUMARK_UI_SAVEGAME_PROPERTIES_DIALOG_H_
 #define VELLUMARK_UI_SAVEGAME_PROPERTIES_DIALOG_H_
 
+#include <string>
+
 #include "ui/modal_dialog.h"
 
 class QCheckBox;
@@ -27,7 +29,8 @@ class SavegamePropertiesDialog final : public ModalDialog {
   void Accept();
   void ShowShot();
 
-  int index_ = 0;  // the savegame's place in the catalogue
+  int index_ = 0;           // the savegame's place in the catalogue
+  std::string shown_note_;  // in its stored form
   QLineEdit* path_;
   QLineEdit* level_;
   QLineEdit* counter_;

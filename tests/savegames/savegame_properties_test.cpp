@@ -41,9 +41,11 @@ class SavegamePropertiesTest : public ::testing::Test {
 
   ChangesAnswer Apply(const std::string& counter, std::optional<TypedNote> note = {},
                       bool remove_shot = false) {
-    return ApplySavegameChanges(
-        program,
-        {.index = kIndex, .note = std::move(note), .counter = counter, .remove_shot = remove_shot});
+    return ApplySavegameChanges(program, {.index = kIndex,
+                                          .shown_note = "old\x8D\nnote",
+                                          .note = std::move(note),
+                                          .counter = counter,
+                                          .remove_shot = remove_shot});
   }
 
   bool Choose(const std::string& file) {
@@ -97,6 +99,11 @@ TEST_F(SavegamePropertiesTest, ANoteThatTheUserHasNotChangedDoesNotUndoANewerOne
   world.disk.Write("Archive/note3.txt", "newer\r\n");
   EXPECT_EQ(Apply("12"), ChangesAnswer::kDone);
   EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "newer\r\n");
+
+  EXPECT_EQ(Apply("12", TypedNote{.stored = "typed"}), ChangesAnswer::kDone);
+  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "typed\r\n");
+  EXPECT_EQ(world.disk.Read("Archive/note3.txt.bak"), "newer\r\n") << "the user has not seen it";
+  EXPECT_EQ(LastBox(), LoadMessage(kUnseenNoteKept, {"\"T:\\Archive\\note3.txt.bak\""}));
 }
 
 TEST_F(SavegamePropertiesTest, OkKeepsFilesListAndDetailsInStep) {

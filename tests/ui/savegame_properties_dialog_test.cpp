@@ -186,6 +186,7 @@ void SavegamePropertiesDialogTest::ANoteThatWasNotChangedGoesBackByteForByte() {
 
 void SavegamePropertiesDialogTest::TypedValuesGoToTheSavegameOfTheOpening() {
   Entry().NoteText = "no\xA0 break";
+  world_->disk.Write("Archive/Slot1/NOTE3.TXT", Entry().NoteText);
   InDialog([this](QDialog* dialog) {
     SelectOnly(*program_, 0);  // as a capture may do
     QTest::keyClick(Note(dialog), Qt::Key_End, Qt::ControlModifier);
