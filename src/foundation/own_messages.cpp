@@ -84,8 +84,7 @@ constexpr TableMessage kOwnMessages[] = {
      "The selected savegames have not been put into the slots, because your own slots could not be "
      "put aside. Nothing has been changed in Tomb Raider folder ~1. The reason:"},
     {kSlotsNotCleared,
-     "Warning: the slots in Tomb Raider folder ~1 could not be emptied. These files are still "
-     "there:"},
+     "Warning: the slots in Tomb Raider folder ~1 could not all be emptied. The reason:"},
     {kGameSlotsSetAside,
      "In Tomb Raider folder ~1 there were savegames that had been saved since the last play. They "
      "have been moved in ~2 and nothing of them was lost."},
@@ -96,6 +95,7 @@ constexpr TableMessage kOwnMessages[] = {
      "The original savegames cannot be restored, because their backup is not whole. Nothing has "
      "been changed in Tomb Raider folder ~1; what is left of the backup is in ~2. These files are "
      "missing or cannot be read:"},
+    {kRestoreNotBegun, "The original savegames have not been put back. They are still in ~1"},
     {kRestoreNotCopied,
      "Warning: these original savegames could not be put back into Tomb Raider folder ~1. They are "
      "still in ~2:"},

@@ -48,6 +48,7 @@ enum OwnMessage : int {
   kGameSlotsSetAside,       // ~1 game folder, ~2 new folder
   kPlayNotCopied,           // ~1 game folder; followed by failure lines
   kBackupNotWhole,          // ~1 game folder, ~2 backup folder; followed by failure lines
+  kRestoreNotBegun,         // ~1 backup folder
   kRestoreNotCopied,        // ~1 game folder, ~2 backup folder; followed by failure lines
   kRestoredElsewhere,       // ~1 game folder
   kGameNotStarted,          // ~1 executable

@@ -35,7 +35,10 @@ std::string PutBack(Program& program, const std::string& folder) {
   if (!clearing.failures.empty()) {
     add(LoadMessage(kSlotsNotCleared, {Quoted(folder)}) + DescribeFailures(clearing.failures));
     // What could not be set aside has no copy elsewhere, so nothing may be put in its place.
-    if (!clearing.deleted) return text;
+    if (!clearing.deleted) {
+      add(LoadMessage(kRestoreNotBegun, {Quoted(play.BackupFolder)}));
+      return text;
+    }
   }
   if (const auto failures = CopyBackupBack(program); !failures.empty()) {
     add(LoadMessage(kRestoreNotCopied, {Quoted(folder), Quoted(play.BackupFolder)}) +

@@ -308,6 +308,8 @@ TEST(PlayTest, NothingIsPutOverASavegameThatCouldNotBeSetAside) {
   world.files.FailAlways("CreateFolder", "rescued", FileError::kDiskFull);
   world.Restore(BoxAnswer::kYes);
   EXPECT_EQ(world.disk.Read("Game/savegame.0"), saved);
+  EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Program\\temp\""), std::string::npos)
+      << "where the own slots are";
   world.Play({1});
   EXPECT_EQ(world.disk.Read("Game/savegame.0"), saved);
   EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Game\\savegame.0\""), std::string::npos);
