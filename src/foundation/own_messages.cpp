@@ -172,8 +172,9 @@ constexpr TableMessage kOwnMessages[] = {
      "Warning: these sub-folders of the old archive could not be deleted. What they hold is still "
      "there:"},
     {kReorderSetAside,
-     "In sub-folders of the old archive there were files that belong to no savegame. They have "
-     "been moved, and nothing of them was lost. They are now in:"},
+     "In sub-folders of the old archive there were files that belong to no savegame, or notes and "
+     "screen-shots of equal savegames that were left out. They have been moved, and nothing of "
+     "them was lost. They are now in:"},
     {kReorderNotListed, "These lists of savegames could not be written:"},
     {kExportNotCopied, "Warning: these screen-shots could not be copied:"},
     {kOldFolderNeeded, "it is also used for something else, or its name exists twice"},

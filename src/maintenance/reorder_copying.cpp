@@ -1,5 +1,6 @@
 #include "maintenance/reorder_copying.h"
 
+#include <optional>
 #include <utility>
 
 #include "foundation/file_utilities.h"
@@ -61,9 +62,11 @@ class Copying {
   void Place(std::size_t index) {
     const SavegameEntry& entry = program_.catalogue.entries[index];
     SavegameFate& fate = made_.fates[index];
-    if (settings_.RemoveEquals && arrived_.Contains(entry.LevelName, entry.InternalCounter)) {
+    if (const auto equal = EqualOf(entry)) {
       ++made_.equals;
-      if (entry.FolderNumber != 0) fate.kind = SavegameFate::Kind::kDropped;
+      if (entry.FolderNumber == 0) return;
+      fate = made_.fates[*equal];
+      fate.kind = SavegameFate::Kind::kDropped;
       return;
     }
     if (entry.FolderNumber == 0) return;
@@ -72,8 +75,15 @@ class Copying {
     fate.kind = SavegameFate::Kind::kCopied;
     fate.folder = made_.folders.size() - 1;
     fate.slot = plan_.TakeSlot(entry.LevelName);
-    CopyEntry(entry, fate.slot);
+    // An equal savegame may be dropped only for one that has really arrived.
+    if (CopyEntry(entry, fate.slot)) arrived_.Add(entry.LevelName, entry.InternalCounter, index);
     ++made_.copied;
+  }
+
+  // The index of the savegame in the new archive for which this one is dropped.
+  std::optional<std::size_t> EqualOf(const SavegameEntry& entry) const {
+    if (!settings_.RemoveEquals) return std::nullopt;
+    return arrived_.Find(entry.LevelName, entry.InternalCounter);
   }
 
   bool StartFolder() {
@@ -98,15 +108,14 @@ class Copying {
     if (error != FileError::kNone) made_.not_listed.push_back({info_file, error});
   }
 
-  void CopyEntry(const SavegameEntry& entry, int slot) {
-    // An equal savegame may be dropped only for one that has really arrived.
-    if (CopyFile(spelling_.Of(entry.SavegamePath), SavegameFileName(slot))) {
-      arrived_.Add(entry.LevelName, entry.InternalCounter);
-    }
+  // True when the savegame itself has arrived.
+  bool CopyEntry(const SavegameEntry& entry, int slot) {
+    const bool arrived = CopyFile(spelling_.Of(entry.SavegamePath), SavegameFileName(slot));
     const std::string note = spelling_.Of(entry.NotePath);
     if (FileExists(files_, note)) CopyFile(note, NoteFileName(slot));
     const std::string shot = spelling_.Of(entry.ShotPath);
     if (FileExists(files_, shot)) CopyFile(shot, ShotFileName(slot));
+    return arrived;
   }
 
   bool CopyFile(const std::string& source, const std::string& name) {

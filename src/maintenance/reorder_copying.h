@@ -21,7 +21,8 @@ struct SavegameFate {
   enum class Kind { kLeft, kDropped, kCopied };
 
   Kind kind = Kind::kLeft;
-  std::size_t folder = 0;  // kCopied: where in NewArchive::folders its copy lies
+  // Where its copy lies; of one that was dropped, the copy of its equal.
+  std::size_t folder = 0;  // in NewArchive::folders
   int slot = 0;
 };
 

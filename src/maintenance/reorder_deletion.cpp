@@ -26,7 +26,7 @@ namespace {
 struct FolderContents {
   std::string blocked;  // why the sub-folder stays whole; empty when it can go
   std::vector<std::string> to_delete;
-  std::vector<std::string> strange;  // files that belong to no savegame
+  std::vector<std::string> strange;  // files that no savegame of the new archive has
 };
 
 class OldArchiveDeletion {
@@ -82,7 +82,12 @@ class OldArchiveDeletion {
       if (const auto problem = ProblemWith(folder, slot)) {
         return Blocked(LoadMessage(kOldHoldsSavegame, {Quoted(*problem)}));
       }
-      of_savegames.insert(of_savegames.end(), {slot.savegame, slot.note, slot.shot});
+      of_savegames.push_back(slot.savegame);
+      for (const FolderEntry* companion : {slot.note, slot.shot}) {
+        if (companion == nullptr) continue;
+        if (IsDropped(folder, slot) && !HasCopy(folder, slot, *companion)) continue;
+        of_savegames.push_back(companion);
+      }
     }
     for (const FolderEntry& entry : listing.entries) {
       if (entry.folder || !entry.plain || entry.ambiguous) {
@@ -98,37 +103,48 @@ class OldArchiveDeletion {
 
   static FolderContents Blocked(std::string reason) { return {std::move(reason), {}, {}}; }
 
+  // The catalogue index of the slot's savegame.
+  std::optional<std::size_t> IndexOf(const std::string& folder, const Slot& slot) {
+    const auto found =
+        index_of_.find(program_.text.LowerPath(InFolder(folder, SavegameFileName(slot.number))));
+    return found == index_of_.end() ? std::nullopt : std::optional(found->second);
+  }
+
+  bool IsDropped(const std::string& folder, const Slot& slot) {
+    return made_.fates[*IndexOf(folder, slot)].kind == SavegameFate::Kind::kDropped;
+  }
+
   // The name of the slot's first file that is not safe in the new archive.
   std::optional<std::string> ProblemWith(const std::string& folder, const Slot& slot) {
-    const std::string path =
-        program_.text.LowerPath(InFolder(folder, SavegameFileName(slot.number)));
-    const auto found = index_of_.find(path);
+    const auto index = IndexOf(folder, slot);
     const std::string& name = slot.savegame->name;
-    if (found == index_of_.end()) return name;
+    if (!index) return name;
 
-    const SavegameFate& fate = made_.fates[found->second];
-    switch (fate.kind) {
+    switch (made_.fates[*index].kind) {
       case SavegameFate::Kind::kLeft:
         return name;
       case SavegameFate::Kind::kDropped:
-        return IsStill(program_.catalogue.entries[found->second], InFolder(folder, name))
+        return IsStill(program_.catalogue.entries[*index], InFolder(folder, name))
                    ? std::nullopt
                    : std::optional(name);
       case SavegameFate::Kind::kCopied:
         break;
     }
-    const std::string& copies = made_.folders[fate.folder];
-    const std::pair<const FolderEntry*, std::string> pairs[] = {
-        {slot.savegame, SavegameFileName(fate.slot)},
-        {slot.note, NoteFileName(fate.slot)},
-        {slot.shot, ShotFileName(fate.slot)}};
-    for (const auto& [entry, copy] : pairs) {
-      if (entry == nullptr) continue;
-      if (!SameContent(files_, InFolder(folder, entry->name), InFolder(copies, copy))) {
-        return entry->name;
-      }
+    for (const FolderEntry* entry : {slot.savegame, slot.note, slot.shot}) {
+      if (entry != nullptr && !HasCopy(folder, slot, *entry)) return entry->name;
     }
     return std::nullopt;
+  }
+
+  // Whether a file of a slot is equal to that of the savegame in the new archive. Of one that was
+  // dropped, the note and the screen-shot may be others than those of its equal.
+  bool HasCopy(const std::string& folder, const Slot& slot, const FolderEntry& entry) {
+    const SavegameFate& fate = made_.fates[*IndexOf(folder, slot)];
+    const std::string copy = &entry == slot.savegame ? SavegameFileName(fate.slot)
+                             : &entry == slot.note   ? NoteFileName(fate.slot)
+                                                     : ShotFileName(fate.slot);
+    return SameContent(files_, InFolder(folder, entry.name),
+                       InFolder(made_.folders[fate.folder], copy));
   }
 
   // A dropped savegame has no copy to compare with, only its level and counter.

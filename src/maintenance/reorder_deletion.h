@@ -22,7 +22,8 @@ struct Deletion {
 
 // Deletes the old sub-folders whose savegames all have an equal copy in the new archive at that
 // moment or were dropped for an equal savegame. A sub-folder with anything else that could be a
-// savegame, or with a folder in it, stays whole. Files that belong to no savegame are set aside.
+// savegame, or with a folder in it, stays whole. Files that belong to no savegame are set aside, so
+// are a dropped savegame's note and screen-shot where its equal has another or none.
 // To be called only when all copies have arrived and were flushed.
 Deletion DeleteOldArchive(Program& program, const OldArchive& old, const NewArchive& made,
                           const ShowPercent& show);

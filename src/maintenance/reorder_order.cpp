@@ -64,12 +64,14 @@ CounterOrder SortByCounter(const std::vector<std::int16_t>& counters) {
   return result;
 }
 
-bool KnownSavegames::Contains(const std::string& level, std::int16_t counter) const {
-  return known_.contains(KeyOf(level, counter));
+std::optional<std::size_t> KnownSavegames::Find(const std::string& level,
+                                                std::int16_t counter) const {
+  const auto found = known_.find(KeyOf(level, counter));
+  return found == known_.end() ? std::nullopt : std::optional(found->second);
 }
 
-void KnownSavegames::Add(const std::string& level, std::int16_t counter) {
-  known_.insert(KeyOf(level, counter));
+void KnownSavegames::Add(const std::string& level, std::int16_t counter, std::size_t index) {
+  known_.emplace(KeyOf(level, counter), index);
 }
 
 }  // namespace vellumark

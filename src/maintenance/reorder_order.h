@@ -4,8 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 #include <vector>
 
 namespace vellumark {
@@ -20,14 +21,15 @@ struct CounterOrder {
 // counters.
 CounterOrder SortByCounter(const std::vector<std::int16_t>& counters);
 
-// Savegames by level name and counter.
+// Catalogue indices of savegames by level name and counter.
 class KnownSavegames {
  public:
-  bool Contains(const std::string& level, std::int16_t counter) const;
-  void Add(const std::string& level, std::int16_t counter);
+  // Empty when none was added.
+  std::optional<std::size_t> Find(const std::string& level, std::int16_t counter) const;
+  void Add(const std::string& level, std::int16_t counter, std::size_t index);
 
  private:
-  std::unordered_set<std::string> known_;
+  std::unordered_map<std::string, std::size_t> known_;
 };
 
 }  // namespace vellumark

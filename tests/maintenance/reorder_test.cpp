@@ -303,6 +303,23 @@ TEST_F(ReorderTest, ADroppedSavegameThatHasChangedStays) {
   EXPECT_EQ(disk.Names("Archive"), (std::vector<std::string>{"Slot1", "Slot3", "info.txt"}));
 }
 
+TEST_F(ReorderTest, WhatOnlyADroppedSavegameHasIsSetAside) {
+  AddSavegame("Archive/Slot3", 0, "Maze", 3);
+  disk.Write("Archive/Slot3/note0.txt", "another note\r\n");
+  for (const char* shot : {"Slot1/shot1.jpg", "Slot3/shot0.jpg"}) {
+    disk.Write(std::string("Archive/") + shot, "the same picture");
+  }
+  Rescan();
+  settings.RemoveEquals = true;
+  settings.DeleteOldArchive = true;
+  ASSERT_TRUE(Reorder());
+  EXPECT_EQ(disk.Names("Archive"), (std::vector<std::string>{"info.txt"}));
+  ASSERT_EQ(disk.Names("Program/rescued/1").size(), 1U) << "the picture is in the new archive";
+  std::set<std::string> contents;
+  for (const auto& [name, bytes] : disk.AllFiles()) contents.insert(bytes);
+  EXPECT_TRUE(contents.contains("three\r\n") && contents.contains("another note\r\n"));
+}
+
 TEST_F(ReorderTest, NeverDeletesTheNewSubfoldersOrOtherFoldersInUse) {
   if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
   settings = {.BasePath = "T:\\Archive", .FolderName = "Slot", .MaxSlot = 9};
