@@ -105,6 +105,8 @@ constexpr TableMessage kOwnMessages[] = {
     {kGameNeeds,
      "The game ~1 cannot be started: it needs ~2, which is not installed on this computer.\r\n"
      "The savegames are in its slots; start it yourself."},
+    {kGameIsNoProgram,
+     "The game ~1 cannot be started: this file is no program.\r\nThe savegames are in its slots."},
 
     {kSlotEmpty,
      "This slot is empty: there is no savegame to link the screen-shot to. Nothing has been "

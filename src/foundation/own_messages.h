@@ -53,6 +53,7 @@ enum OwnMessage : int {
   kRestoredElsewhere,       // ~1 game folder
   kGameNotStarted,          // ~1 executable
   kGameNeeds,               // ~1 executable, ~2 program
+  kGameIsNoProgram,         // ~1 executable
 
   // Capture
   kSlotEmpty,            // no values

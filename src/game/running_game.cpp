@@ -1,6 +1,7 @@
 #include "game/running_game.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
@@ -9,6 +10,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "platform/clipboard.h"
+#include "platform/file_system.h"
 #include "platform/shell.h"
 #include "platform/text.h"
 #include "program.h"
@@ -18,16 +20,25 @@ namespace {
 
 constexpr std::size_t kLongestTitle = 255;
 
-// Why nothing was started, once for the same executable: what is missing stays missing.
+// True for a file without the mark that every Windows program begins with.
+bool IsNoProgram(Program& program, const std::string& file) {
+  constexpr std::string_view kMark = "MZ";
+  const ReadResult read = program.files.Read(file, kMark.size());
+  return read.error == FileError::kNone && read.bytes != kMark;
+}
+
+std::string WhyNotStarted(Program& program, const std::string& executable) {
+  const std::string missing = program.shell.MissingFor(program.files.HostPath(executable));
+  if (!missing.empty()) return LoadMessage(kGameNeeds, {Quoted(executable), missing});
+  const bool no_program = IsNoProgram(program, executable);
+  return LoadMessage(no_program ? kGameIsNoProgram : kGameNotStarted, {Quoted(executable)});
+}
+
+// Once for the same executable: what is missing stays missing.
 void TellNotStarted(Program& program, const std::string& executable) {
   if (program.play.told_not_started == executable) return;
   program.play.told_not_started = executable;
-
-  const std::string missing = program.shell.MissingFor(program.files.HostPath(executable));
-  Tell(program,
-       missing.empty() ? LoadMessage(kGameNotStarted, {Quoted(executable)})
-                       : LoadMessage(kGameNeeds, {Quoted(executable), missing}),
-       BoxIcon::kExclamation);
+  Tell(program, WhyNotStarted(program, executable), BoxIcon::kExclamation);
 }
 
 }  // namespace

@@ -447,6 +447,14 @@ TEST(RunningGameTest, OnlyTheGameItselfIsStarted) {
   world.program->archive.settings.GameExecutable = "T:\\Elsewhere\\tomb4.exe";
   StartGame(*world.program);
   EXPECT_EQ(world.boxes.shown.size(), 2U) << "another program, perhaps for another reason";
+
+  world.shell.missing.clear();
+  for (const char* why : {"this file is no program", "could not be started"}) {
+    world.program->play.told_not_started.clear();
+    StartGame(*world.program);
+    EXPECT_NE(world.boxes.shown.back().text.find(why), std::string::npos);
+    world.disk.Write("Game/tomb4.exe", "MZ");
+  }
 }
 
 // Every savegame and picture of the archive and of the own slots, and what the game saved.

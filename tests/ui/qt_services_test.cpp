@@ -169,6 +169,8 @@ void QtServicesTest::FiltersAreWrittenAsQtWants() {
 void QtServicesTest::TheShellRefusesWhatIsMissing() {
   QVERIFY(!QtShell().Open("", "", "", false));
   QVERIFY(!QtShell().Open((world_.disk.path() / "none.exe").string(), "", "", false));
+  world_.disk.Write("text.EXE", "no program");
+  QVERIFY(!QtShell().Open((world_.disk.path() / "text.EXE").string(), "", "", false));
 
   world_.disk.Write("script", "#!/bin/sh\necho \"$1 $PWD\" > done\n");
   std::filesystem::permissions(world_.disk.path() / "script", std::filesystem::perms::owner_all);

@@ -39,6 +39,10 @@ bool QtShell::Open(const std::string& document, const std::string& parameters,
 
   const bool for_wine = file.isFile() && IsWindowsProgram(file.filePath());
   if (!for_wine && !(file.isFile() && IsNativeProgram(file))) {
+    // What only bears a program's name would come up in an editor, or nowhere.
+    const bool named_program =
+        file.suffix().compare(QLatin1String("exe"), Qt::CaseInsensitive) == 0;
+    if (named_program) return false;
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file.filePath()));
   }
 
