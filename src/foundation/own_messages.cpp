@@ -117,6 +117,12 @@ constexpr TableMessage kOwnMessages[] = {
     {kShotFolderKept,
      "The folder for screen-shots in the preferences stays as it was. The screen-shot itself is "
      "saved all the same, if it can be."},
+    {kTypedNoteKept,
+     "The note that you had typed for the captured screen-shot was not linked to a savegame. It is "
+     "now in ~1"},
+    {kTypedNoteNotKept,
+     "The note that you had typed for the captured screen-shot was not linked to a savegame, and "
+     "could not be kept in ~1: ~2. This is the note:"},
     {kNameCapturedPicture, "The captured screen-shot"},
 
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},

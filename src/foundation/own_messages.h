@@ -59,6 +59,8 @@ enum OwnMessage : int {
   kSlotEmpty,            // no values
   kSlotsChanged,         // no values
   kShotFolderKept,       // no values
+  kTypedNoteKept,        // ~1 folder
+  kTypedNoteNotKept,     // ~1 folder, ~2 reason; followed by the note
   kNameCapturedPicture,  // for assistive technology
 
   // Savegame properties

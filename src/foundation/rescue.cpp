@@ -9,20 +9,6 @@
 namespace vellumark {
 namespace {
 
-// Makes the next free numbered folder. On failure the folder's name is still answered.
-FileError MakeRescueFolder(Program& program, std::string& folder) {
-  const std::string parent = program.paths.ProgramFolder + LoadMessage(kRescueFolder);
-  FileError error = program.files.Attributes(parent).error;
-  folder = parent;
-  if (error == FileError::kNotFound) error = program.files.CreateFolder(parent);
-  for (int n = 1; error == FileError::kNone; ++n) {
-    folder = InFolder(parent, std::to_string(n));
-    error = program.files.Attributes(folder).error;
-    if (error == FileError::kNotFound) return program.files.CreateFolder(folder);
-  }
-  return error;
-}
-
 // Moves one file: by renaming it, or, where that cannot be done, by a verified and flushed copy.
 FileError Move(FileSystem& files, const std::string& from, const std::string& to) {
   FileError error = files.Rename(from, to, RenameMode::kRefuseExisting);
@@ -36,6 +22,19 @@ FileError Move(FileSystem& files, const std::string& from, const std::string& to
 }
 
 }  // namespace
+
+FileError MakeRescueFolder(Program& program, std::string& folder) {
+  const std::string parent = program.paths.ProgramFolder + LoadMessage(kRescueFolder);
+  FileError error = program.files.Attributes(parent).error;
+  folder = parent;
+  if (error == FileError::kNotFound) error = program.files.CreateFolder(parent);
+  for (int n = 1; error == FileError::kNone; ++n) {
+    folder = InFolder(parent, std::to_string(n));
+    error = program.files.Attributes(folder).error;
+    if (error == FileError::kNotFound) return program.files.CreateFolder(folder);
+  }
+  return error;
+}
 
 Rescue SetAside(Program& program, const std::vector<std::string>& paths) {
   Rescue rescue;

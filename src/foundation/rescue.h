@@ -16,6 +16,10 @@ struct Rescue {
   std::vector<Failure> failures;  // files that are still where they were
 };
 
+// Makes a new folder `rescued\<n>` beside the program, n being the next free number. `folder` gets
+// its path, on failure that of the folder that could not be made.
+FileError MakeRescueFolder(Program& program, std::string& folder);
+
 // Moves files into a new folder `rescued\<n>` beside the program, n being the next free number.
 // They keep their names, so the folder is an ordinary slot folder.
 Rescue SetAside(Program& program, const std::vector<std::string>& paths);

@@ -6,6 +6,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "game/capture_rescue.h"
 #include "game/restore.h"
 #include "game/slot_backup.h"
 #include "program.h"
@@ -24,6 +25,7 @@ void MainWindowClosing(Program& program) {
 
 void ShutDown(Program& program) {
   if (program.details.ViewerOpen) program.windows.CloseDialog(WindowId::kDialogScreenShot);
+  const std::string kept_note = SetTypedNoteAside(program);
   if (program.capture.CaptureDialogOpen) program.windows.CloseDialog(WindowId::kDialogCattura);
   SaveArchiveIfChanged(program);
   WritePreferencesFile(program);
@@ -33,6 +35,7 @@ void ShutDown(Program& program) {
     Tell(program, LoadMessage(285, {kCarriageReturn}), BoxIcon::kExclamation);
   }
   if (program.play.ExaminedInGameFolder) ReleaseBackup(program);
+  if (!kept_note.empty()) Tell(program, kept_note, BoxIcon::kExclamation);
 }
 
 }  // namespace vellumark

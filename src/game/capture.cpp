@@ -58,6 +58,7 @@ void EndCapture(Program& program) {
   CaptureState& capture = program.capture;
   capture.CaptureDialogOpen = false;
   capture.picture = nullptr;
+  capture.typed_note.clear();
   program.clipboard.Empty();
   capture.CaptureArmed = true;
 }

@@ -20,6 +20,7 @@ struct CaptureState {
   std::shared_ptr<const Picture> picture{};  // what the timer took from the clipboard
   std::int16_t SelectedSlot = -1;            // the line that is chosen; -1 for none
   std::string SelectedLevelName{};
+  std::string typed_note{};  // what the user has made of the note; empty while it is as shown
   std::int16_t SelectedCounter = 0;
   std::string game_folder{};              // whose slots the lines show
   std::vector<std::string> slot_lines{};  // as the dialog shows them; line k is slot k

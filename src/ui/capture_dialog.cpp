@@ -71,6 +71,9 @@ CaptureDialog::CaptureDialog(Program& program)
   SetWindowCaptions(*this, WindowId::kDialogCattura, program.text);
   slots_->setFocus();
 
+  connect(note_, &QPlainTextEdit::textChanged, this, [this] {
+    program_.capture.typed_note = note_->ChangedNote().value_or(TypedNote{}).stored;
+  });
   connect(slots_, &SlotList::Chosen, this, [this](int line) { ChooseSlot(program_, line); });
   connect(save_, &QPushButton::clicked, this, &CaptureDialog::SaveElsewhere);
   connect(ok_, &QPushButton::clicked, this, &CaptureDialog::Link);

@@ -270,6 +270,7 @@ TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
   program.preferences.SoundEffects = true;
   program.capture.ShotLinkedNotImported = true;
   program.capture.CaptureDialogOpen = true;
+  program.capture.typed_note = "typed\x8Dtoo";
   program.details.ViewerOpen = true;
   world.boxes.while_waiting = [this] {
     EXPECT_EQ(DecodeArchive(world.disk.Read("Archive.vmk")).SavegameCount, 1);
@@ -277,7 +278,9 @@ TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
   };
   MainWindowClosing(program);
 
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
+  ASSERT_EQ(world.boxes.shown.size(), 2U);
+  EXPECT_NE(world.boxes.shown[1].text.find("Program\\rescued\\1\""), std::string::npos);
+  EXPECT_EQ(world.disk.Read("Program/rescued/1/note.txt"), "typed\x8Dtoo\r\n");
   EXPECT_EQ(world.boxes.shown[0].text,
             "Warning: Screen-shot you have linked at slot/savegame has not yet imported in "
             "archive.\rYou can import it later with [Import savegames] command");

@@ -236,6 +236,7 @@ void CaptureDialogTest::ClosingArmsTheCaptureAgain() {
   QVERIFY(program_->capture.CaptureDialogOpen && !program_->capture.CaptureArmed);
   Choose(dialog, 2);
   Type(dialog, "typed");
+  QCOMPARE(program_->capture.typed_note, std::string("typed"));
   if (way == QStringLiteral("escape")) {
     QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
   } else if (way == QStringLiteral("close")) {
@@ -247,6 +248,7 @@ void CaptureDialogTest::ClosingArmsTheCaptureAgain() {
   }
   QVERIFY(OpenDialog() == nullptr);
   QVERIFY(!program_->capture.CaptureDialogOpen && program_->capture.CaptureArmed);
+  QVERIFY(program_->capture.typed_note.empty());
   QVERIFY(world_->clipboard.content == nullptr);
   QCOMPARE(!world_->desktop.activated.empty(), back_to_game);
   QCOMPARE(world_->disk.Exists("Game/note2.txt"), way == QStringLiteral("Pul_Ok"));
