@@ -25,6 +25,10 @@ bool AskYesNo(Program& program, const std::string& text, BoxIcon icon) {
   return Show(program, text, BoxButtons::kYesNo, icon) == BoxAnswer::kYes;
 }
 
+bool AskToKeep(Program& program, const std::string& text) {
+  return Show(program, text, BoxButtons::kYesNoToKeep, BoxIcon::kNone) != BoxAnswer::kNo;
+}
+
 bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon) {
   return Show(program, text, BoxButtons::kOkCancel, icon) == BoxAnswer::kOk;
 }

@@ -20,6 +20,9 @@ void Tell(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNo
 // Asks with Yes and No, Yes being the default. True for Yes.
 bool AskYesNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
 
+// The same for a question whose No deletes: true unless the user has pressed No.
+bool AskToKeep(Program& program, const std::string& text);
+
 // Asks with OK and Cancel, OK being the default. True for OK.
 bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
 

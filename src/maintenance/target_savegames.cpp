@@ -69,7 +69,7 @@ bool KeepTargetSavegames(Program& program, const std::string& folder,
   if (!FileExists(program.files, folder + LoadMessage(309))) return false;
 
   const std::string quoted = Quoted(folder);
-  if (AskYesNo(program, LoadMessage(310, {quoted, kCarriageReturn, kCarriageReturn, quoted}))) {
+  if (AskToKeep(program, LoadMessage(310, {quoted, kCarriageReturn, kCarriageReturn, quoted}))) {
     return true;
   }
   const WorkScope working(program);

@@ -6,7 +6,12 @@
 
 namespace vellumark {
 
-enum class BoxButtons { kOk, kOkCancel, kYesNo };
+enum class BoxButtons {
+  kOk,
+  kOkCancel,
+  kYesNo,
+  kYesNoToKeep,  // Yes and No, where No gives up something that Yes keeps
+};
 enum class BoxIcon { kNone, kCritical, kExclamation };
 enum class BoxAnswer { kOk, kCancel, kYes, kNo };
 
@@ -17,7 +22,7 @@ class MessageBoxes {
   // Shows `text` (code page; carriage return, line feed or both break the line) over the window
   // that is modal at that moment and waits for the answer; the program's name is the title and
   // the first button the default. The program's timer and events run meanwhile. Closing the box or
-  // Escape answers kOk, kCancel or kNo.
+  // Escape answers kOk, kCancel, kNo or, of kYesNoToKeep, kYes.
   virtual BoxAnswer Show(const std::string& text, BoxButtons buttons, BoxIcon icon) = 0;
 };
 

@@ -145,6 +145,7 @@ TEST(CopyMoveTest, SavegamesOfTheTargetAreKeptOrDeletedAsTheUserSays) {
   EXPECT_EQ(world.boxes.shown[1].text,
             "In folder \"T:\\Target\" there are already any savegames.\rImport them in archive?\r"
             "(If you chose [NO] savegames in \"T:\\Target\" folder, will be delete)");
+  EXPECT_EQ(world.boxes.shown[1].buttons, BoxButtons::kYesNoToKeep);
   EXPECT_EQ(world.Target("savegame.0"), "old");
   EXPECT_EQ(world.Target("savegame.1"), kThree) << "renumbered, whatever was said before";
 

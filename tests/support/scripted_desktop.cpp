@@ -18,7 +18,9 @@ BoxAnswer ScriptedMessageBoxes::Show(const std::string& text, BoxButtons buttons
   shown.push_back({text, buttons, icon});
   if (while_waiting) while_waiting();
   if (buttons == BoxButtons::kOk) return BoxAnswer::kOk;
-  if (answers.empty()) return buttons == BoxButtons::kYesNo ? BoxAnswer::kYes : BoxAnswer::kOk;
+  if (answers.empty()) {
+    return buttons == BoxButtons::kOkCancel ? BoxAnswer::kOk : BoxAnswer::kYes;
+  }
   const BoxAnswer answer = answers.front();
   answers.pop_front();
   return answer;

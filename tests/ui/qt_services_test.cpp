@@ -69,6 +69,7 @@ void QtServicesTest::MessageBoxesAnswerKeys_data() {
   };
   row("Enter is Yes", BoxButtons::kYesNo, Qt::Key_Return, BoxAnswer::kYes);
   row("Escape is No", BoxButtons::kYesNo, Qt::Key_Escape, BoxAnswer::kNo);
+  row("Escape keeps", BoxButtons::kYesNoToKeep, Qt::Key_Escape, BoxAnswer::kYes);
   row("Enter is OK", BoxButtons::kOkCancel, Qt::Key_Return, BoxAnswer::kOk);
   row("Escape is Cancel", BoxButtons::kOkCancel, Qt::Key_Escape, BoxAnswer::kCancel);
   row("Escape leaves a notice", BoxButtons::kOk, Qt::Key_Escape, BoxAnswer::kOk);

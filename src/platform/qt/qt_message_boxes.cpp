@@ -16,6 +16,7 @@ QMessageBox::StandardButtons ButtonsFor(BoxButtons buttons) {
     case BoxButtons::kOkCancel:
       return QMessageBox::Ok | QMessageBox::Cancel;
     case BoxButtons::kYesNo:
+    case BoxButtons::kYesNoToKeep:
       break;
   }
   return QMessageBox::Yes | QMessageBox::No;
@@ -55,9 +56,10 @@ BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxI
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   SetLongText(box, box.text());
-  const bool asks = buttons == BoxButtons::kYesNo;
+  const bool keeps = buttons == BoxButtons::kYesNoToKeep;
+  const bool asks = keeps || buttons == BoxButtons::kYesNo;
   box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
-  if (asks) box.setEscapeButton(QMessageBox::No);
+  if (asks) box.setEscapeButton(keeps ? QMessageBox::Yes : QMessageBox::No);
 
   switch (box.exec()) {
     case QMessageBox::Yes:
