@@ -114,6 +114,12 @@ class FolderLock {
   virtual ~FolderLock() = default;
 };
 
+// Lets lookups be answered from one listing of each folder, for as long as this lives.
+class FolderHold {
+ public:
+  virtual ~FolderHold() = default;
+};
+
 enum class LockAnswer { kTaken, kHeldByAnother, kUnavailable };
 
 struct LockResult {
@@ -200,6 +206,11 @@ class FileSystem {
     for (const std::string& path : paths) errors.push_back(Delete(path));
     return errors;
   }
+
+  // For an operation that makes many files in one folder. What this file system changes is seen as
+  // ever; a name that another program makes may be missed in another letter case. Null where names
+  // are looked up without a listing.
+  virtual std::unique_ptr<FolderHold> HoldFolders() { return nullptr; }
 
   // Takes read-only, hidden and system away from a file.
   virtual FileError ClearAttributes(const std::string& path) = 0;

@@ -37,6 +37,7 @@ class Copier {
         mode_(mode) {}
 
   SelectedCopies Copy(const std::vector<SavegameFiles>& savegames, bool renumber) {
+    const auto hold = files_.HoldFolders();
     const bool probe = renumber && FileExists(files_, folder_ + LoadMessage(308));
     const auto lies_here = [this](const SavegameFiles& savegame) {
       return LiesInTarget(savegame.savegame);

@@ -42,6 +42,7 @@ class FaultyFileSystem final : public FileSystem {
   FileError Flush(const std::vector<std::string>& paths) override;
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override;
   FileError Delete(const std::string& path) override;
+  std::unique_ptr<FolderHold> HoldFolders() override { return real_.HoldFolders(); }
   FileError ClearAttributes(const std::string& path) override;
   FileError CreateFolder(const std::string& path) override;
   FileError RemoveFolder(const std::string& path) override;

@@ -51,8 +51,14 @@ NameVariants VariantFinder::Known(const VariantsByName& names, const std::string
 }
 
 void VariantFinder::LetGo() {
-  holding_ = false;
-  held_.clear();
+  --holds_;
+  Forget();
+}
+
+void VariantFinder::Added(const std::string& host_folder, const std::string& host_name) {
+  const auto held = held_.find(host_folder);
+  if (held == held_.end()) return;
+  Add(host_name, &held->second[names_.Fold(names_.FromHost(host_name).bytes)]);
 }
 
 NameVariants VariantFinder::Find(const std::string& host_folder, std::string_view name) {
@@ -77,7 +83,7 @@ NameVariants VariantFinder::Find(const std::string& host_folder, std::string_vie
 
   // A folder that is just being changed is not worth remembering: one pass that keeps nothing.
   Remembered folder = {Stamp(status), {}};
-  const bool remember = holding_ || folder.stamp.IsAtRest(rest_);
+  const bool remember = holds_ > 0 || folder.stamp.IsAtRest(rest_);
   NameVariants variants;
   while (const dirent* entry = directory.Next()) {
     if (names_.HostNameFoldsTo(entry->d_name, folded)) Add(entry->d_name, &variants);
@@ -88,7 +94,7 @@ NameVariants VariantFinder::Find(const std::string& host_folder, std::string_vie
   }
   if (directory.error() != 0) return Failed(directory.error());
 
-  if (holding_) {
+  if (holds_ > 0) {
     held_.emplace(host_folder, std::move(folder.by_folded_name));
   } else if (remember) {
     if (folders_.size() >= kMostFolders) folders_.clear();

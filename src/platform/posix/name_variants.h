@@ -35,9 +35,12 @@ class VariantFinder {
 
   NameVariants Find(const std::string& host_folder, std::string_view name);
 
-  // From Hold to LetGo each folder is listed once and then taken for unchanged.
-  void Hold() { holding_ = true; }
+  // From Hold to the LetGo that belongs to it each folder is listed once and then taken for
+  // unchanged but for what Added tells, until Forget.
+  void Hold() { ++holds_; }
   void LetGo();
+  void Added(const std::string& host_folder, const std::string& host_name);
+  void Forget() { held_.clear(); }
 
  private:
   using VariantsByName = std::unordered_map<std::string, NameVariants>;
@@ -63,7 +66,7 @@ class VariantFinder {
   const PathNames& names_;
   const std::time_t rest_;
   std::unordered_map<std::string, Remembered> folders_;  // by host path
-  bool holding_ = false;
+  int holds_ = 0;
   std::unordered_map<std::string, VariantsByName> held_;  // by host path
 };
 

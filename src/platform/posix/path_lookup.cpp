@@ -89,11 +89,16 @@ FoundPath PathLookup::FindPart(const WindowsPath& path, std::size_t count) {
 // The folder that holds, or would hold, what the path names.
 FoundPath PathLookup::FindFolder(const WindowsPath& path) {
   const std::size_t count = path.names.size() - 1;
-  if (!holding_) return FindPart(path, count);
+  if (holds_ == 0) return FindPart(path, count);
 
   const auto [known, is_new] = held_folders_.try_emplace(SpelledPart(path, count));
   if (is_new) known->second = FindPart(path, count);
   return known->second;
+}
+
+void PathLookup::Forget() {
+  held_folders_.clear();
+  variants_.Forget();
 }
 
 PathStatus PathLookup::Status(const WindowsPath& path) {

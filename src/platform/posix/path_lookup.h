@@ -47,15 +47,15 @@ class PathLookup {
  public:
   PathLookup(DriveMap drives, const PathNames& names);
 
-  // While it lives, FindPlace finds each folder and lists it only once: for deleting many files.
-  class Hold {
+  // While it lives, FindPlace finds each folder and lists it only once: for many files.
+  class Hold final : public FolderHold {
    public:
     explicit Hold(PathLookup& lookup) : lookup_(lookup) {
-      lookup_.holding_ = true;
+      ++lookup_.holds_;
       lookup_.variants_.Hold();
     }
-    ~Hold() {
-      lookup_.holding_ = false;
+    ~Hold() override {
+      --lookup_.holds_;
       lookup_.held_folders_.clear();
       lookup_.variants_.LetGo();
     }
@@ -76,6 +76,10 @@ class PathLookup {
   PathStatus Status(const WindowsPath& path);
   NamePlace FindPlace(const WindowsPath& path);
 
+  // What has changed while folders are held: a file was made at this place, or anything else.
+  void Made(const NamePlace& place) { variants_.Added(place.folder, place.name); }
+  void Forget();
+
   // The host path with the disk's spelling as far as the path exists.
   std::string HostPath(const WindowsPath& path);
 
@@ -87,7 +91,7 @@ class PathLookup {
   DriveMap drives_;
   const PathNames& names_;
   VariantFinder variants_;
-  bool holding_ = false;
+  int holds_ = 0;
   std::unordered_map<std::string, FoundPath> held_folders_;  // by spelled host path
 };
 

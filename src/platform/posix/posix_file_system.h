@@ -54,6 +54,7 @@ class PosixFileSystem final : public FileSystem {
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override;
   FileError Delete(const std::string& path) override;
   std::vector<FileError> DeleteAll(const std::vector<std::string>& paths) override;
+  std::unique_ptr<FolderHold> HoldFolders() override;
   FileError ClearAttributes(const std::string& path) override;
   FileError CreateFolder(const std::string& path) override;
   FileError RemoveFolder(const std::string& path) override;
@@ -75,6 +76,7 @@ class PosixFileSystem final : public FileSystem {
   CheckedPath PathToLookFor(const std::string& path) const;
   CheckedPath PathToMake(const std::string& path) const;
 
+  FileError DeleteOne(const std::string& path);
   FileError CopyToNew(const std::string& source, const std::string& target, bool verify);
   PathStatus Status(const std::string& path);
   // Not open when the path names no regular file that can be read.

@@ -138,6 +138,7 @@ FileError PosixFileSystem::Create(const std::string& path, std::string_view byte
   std::size_t written = 0;
   int failure = WriteAll(file.descriptor(), bytes, &written);
   if (failure == 0) failure = file.Finish();
+  if (failure == 0) lookup_.Made(place);
   return FileErrorFromNumber(failure);
 }
 
@@ -223,6 +224,7 @@ FileError PosixFileSystem::CopyToNew(const std::string& source, const std::strin
   // Not every disk takes a time; the copy is whole without it.
   if (failure == 0) static_cast<void>(futimens(to.descriptor(), times.data()));
   if (failure == 0) failure = to.Finish();
+  if (failure == 0) lookup_.Made(place);
   return FileErrorFromNumber(failure);
 }
 
@@ -274,6 +276,7 @@ FileError PosixFileSystem::Rename(const std::string& from, const std::string& to
     return FileError::kAccessDenied;
   }
 
+  lookup_.Forget();
   if (!target.exists) {
     return FileErrorFromNumber(RenameToFreeName(source.Host(), target.Host()));
   }
@@ -287,6 +290,13 @@ FileError PosixFileSystem::Rename(const std::string& from, const std::string& to
 }
 
 FileError PosixFileSystem::Delete(const std::string& path) {
+  lookup_.Forget();
+  const FileError error = DeleteOne(path);
+  lookup_.Forget();
+  return error;
+}
+
+FileError PosixFileSystem::DeleteOne(const std::string& path) {
   const NamePlace place = PlaceToChange(path);
   if (place.error != FileError::kNone) return place.error;
   const FileError refused = CheckWritableFile(place.Host());
@@ -295,8 +305,16 @@ FileError PosixFileSystem::Delete(const std::string& path) {
 }
 
 std::vector<FileError> PosixFileSystem::DeleteAll(const std::vector<std::string>& paths) {
+  lookup_.Forget();
   const PathLookup::Hold hold(lookup_);
-  return FileSystem::DeleteAll(paths);
+  std::vector<FileError> errors;
+  errors.reserve(paths.size());
+  for (const std::string& path : paths) errors.push_back(DeleteOne(path));
+  return errors;
+}
+
+std::unique_ptr<FolderHold> PosixFileSystem::HoldFolders() {
+  return std::make_unique<PathLookup::Hold>(lookup_);
 }
 
 FileError PosixFileSystem::ClearAttributes(const std::string& path) {
@@ -314,12 +332,14 @@ FileError PosixFileSystem::ClearAttributes(const std::string& path) {
 FileError PosixFileSystem::CreateFolder(const std::string& path) {
   const NamePlace place = PlaceToMake(path);
   if (place.error != FileError::kNone) return place.error;
+  lookup_.Forget();
   return FileErrorFromNumber(mkdir(place.Host().c_str(), 0777) == 0 ? 0 : errno);
 }
 
 FileError PosixFileSystem::RemoveFolder(const std::string& path) {
   const NamePlace place = PlaceToChange(path);
   if (place.error != FileError::kNone) return place.error;
+  lookup_.Forget();
   return FileErrorFromNumber(rmdir(place.Host().c_str()) == 0 ? 0 : errno);
 }
 

@@ -160,6 +160,23 @@ TEST_F(PosixFileSystemTest, DeleteAllAnswersForEachFileWhatDeleteWould) {
   EXPECT_EQ(fs_.Delete("T:\\arc\\two"), FileError::kNone);
 }
 
+TEST_F(PosixFileSystemTest, HeldFoldersShowWhatWasDoneToThem) {
+  host_.Put("Arc/Old", "x");
+  const auto hold = fs_.HoldFolders();
+  const auto expect = [](FileError answer, FileError error) { EXPECT_EQ(answer, error); };
+  expect(fs_.Create("T:\\Arc\\OLD", ""), FileError::kAlreadyExists);
+  expect(fs_.Create("T:\\Arc\\New", "y"), FileError::kNone);
+  expect(fs_.Create("T:\\Arc\\NEW", "y"), FileError::kAlreadyExists);
+  expect(fs_.Delete("T:\\Arc\\NEW"), FileError::kNone);
+  expect(fs_.Copy("T:\\Arc\\old", "T:\\Arc\\new"), FileError::kNone);
+  expect(fs_.Copy("T:\\Arc\\old", "T:\\Arc\\NEW"), FileError::kAlreadyExists);
+  expect(fs_.Rename("T:\\Arc\\new", "T:\\Arc\\b", RenameMode::kRefuseExisting), FileError::kNone);
+  expect(fs_.Create("T:\\Arc\\NEW", "z"), FileError::kNone);
+  expect(fs_.DeleteAll({"T:\\Arc\\new"}).front(), FileError::kNone);
+  expect(fs_.Create("T:\\Arc\\new", "z"), FileError::kNone);
+  EXPECT_EQ(host_.Get("Arc/b"), "x");
+}
+
 TEST_F(PosixFileSystemTest, ALinkToAFolderIsNeitherDeletedNorRemoved) {
   host_.Put("Arc/a", "x");
   stdfs::create_directory_symlink("Arc", host_ / "link");
