@@ -23,9 +23,10 @@ class MessageValue {
   std::string text_;
 };
 
-// The text of a message with its placeholders filled. Value i goes to the first ~i of the text as
-// it stands then, so a value that holds a later placeholder's characters takes that value in. A
-// placeholder without a value stays. The number must be one of the tables'.
+// The text of a message with its placeholders filled. In the numbered table, value i goes to the
+// first ~i of the text as it stands then, so a value that holds a later placeholder's characters
+// takes that value in; in the program's other texts every value stays as it is. A placeholder
+// without a value stays. The number must be one of the tables'.
 std::string LoadMessage(int number, std::initializer_list<MessageValue> values = {});
 
 }  // namespace vellumark

@@ -34,7 +34,7 @@ struct PlayState {
   std::vector<std::string> backed_up;  // the names of the files that the backup should hold
 
   std::vector<TopLevelWindow> WindowList;  // of the last lookup, titles in the code page
-  std::string told_not_started;            // the executable that the user knows cannot be started
+  std::string told_not_started;            // what the user was told when the game did not start
 };
 
 }  // namespace vellumark

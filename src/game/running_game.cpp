@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
@@ -34,11 +35,11 @@ std::string WhyNotStarted(Program& program, const std::string& executable) {
   return LoadMessage(no_program ? kGameIsNoProgram : kGameNotStarted, {Quoted(executable)});
 }
 
-// Once for the same executable: what is missing stays missing.
+// The same is told once a run: what is missing stays missing.
 void TellNotStarted(Program& program, const std::string& executable) {
-  if (program.play.told_not_started == executable) return;
-  program.play.told_not_started = executable;
-  Tell(program, WhyNotStarted(program, executable), BoxIcon::kExclamation);
+  const std::string why = WhyNotStarted(program, executable);
+  if (std::exchange(program.play.told_not_started, why) == why) return;
+  Tell(program, why, BoxIcon::kExclamation);
 }
 
 }  // namespace

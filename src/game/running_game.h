@@ -21,8 +21,7 @@ WindowHandle FindWindowByTitle(Program& program, std::string& title, bool partia
 // the game was running, or the configured executable is not the game's. False: launch it.
 bool ActivateRunningGame(Program& program);
 
-// Brings the running game to the front or starts it. That an executable cannot be started is
-// told once.
+// Brings the running game to the front or starts it. Why it cannot be started is told once a run.
 void BringUpGame(Program& program);
 
 // The button "Start Tomb Raider": arms the capture and brings up the game; touches no slot.

@@ -205,7 +205,7 @@ TEST_F(ScanTest, SurvivesTheFailureOfAnyCall) {
 
 TEST_F(ScanTest, RemovesTemporaryFilesOfARunThatWasCutOff) {
   world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.disk.Write("Archive/Slot1/~v~savegame.1", "half");
+  world.disk.Write("Archive/Slot1/~vm~savegame.1", "half");
   ScanArchive(program);
   EXPECT_EQ(world.disk.Names("Archive/Slot1"), std::vector<std::string>{"savegame.0"});
 }

@@ -31,6 +31,8 @@ TEST(LoadMessageTest, AValueTakesInTheValuesOfLaterPlaceholdersButNotOfItsOwn) {
   EXPECT_TRUE(text.starts_with("In folder C:\\PROGRA<2> there are")) << text;
   EXPECT_NE(text.find("any savegames.~2Import"), std::string::npos) << text;
   EXPECT_EQ(LoadMessage(262, {"~1"}), "Removed ~1 savegames");
+  EXPECT_EQ(LoadMessage(kFolderNotOpened, {"C:\\PROGRA~2", "it is away"}),
+            "The folder C:\\PROGRA~2 cannot be opened: it is away.");
 }
 
 TEST(MessageTableTest, IsSortedAndKeepsBlanksAndSpelling) {
