@@ -10,11 +10,7 @@
 
 namespace vellumark {
 
-using testing::ExpectCaptions;
-using testing::ExpectTabOrder;
-using testing::Press;
-
-class ModalDialogsTest : public testing::WindowFixture {
+class ModalDialogsTest : public WindowFixture {
   Q_OBJECT
 
  private slots:
@@ -38,7 +34,7 @@ void ExpectAccessKeys(const QDialog* dialog, WindowId id) {
   QSet<QChar> keys;
   for (const Caption& caption : CaptionsOf(id)) {
     if (*caption.control == '\0') continue;
-    auto* control = testing::Find<QWidget>(dialog, caption.control);
+    auto* control = Find<QWidget>(dialog, caption.control);
     const QChar key = AccessKey(control);
     auto* frame = qobject_cast<QGroupBox*>(control);
     if (key.isNull() && frame != nullptr) continue;

@@ -16,9 +16,7 @@
 
 namespace vellumark {
 
-using testing::Jpeg;
-
-class PrincipaleTest : public testing::WindowFixture {
+class PrincipaleTest : public WindowFixture {
   Q_OBJECT
 
  private slots:
@@ -43,13 +41,13 @@ class PrincipaleTest : public testing::WindowFixture {
 
   template <typename Widget>
   Widget* Find(const char* name) const {
-    return testing::Find<Widget>(window_.get(), name);
+    return vellumark::Find<Widget>(window_.get(), name);
   }
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
     QTest::keyClick(List(), key, modifiers);
   }
-  void Click(const char* button) const { testing::Click(window_.get(), button); }
-  QString TextOf(const char* field) const { return testing::TextOf(window_.get(), field); }
+  void Click(const char* button) const { vellumark::Click(window_.get(), button); }
+  QString TextOf(const char* field) const { return vellumark::TextOf(window_.get(), field); }
   SavegameList* List() const { return Find<SavegameList>("List1"); }
   QString Row(int row) const { return List()->model()->index(row, 0).data().toString(); }
   QPoint PlaceOf(int row) const {
@@ -72,7 +70,7 @@ void PrincipaleTest::Prepare() {
 
 void PrincipaleTest::CaptionsAreTheMessagesByteForByte() {
   QCOMPARE(window_->windowTitle(), QStringLiteral(" Vellumark - savegame archive"));
-  testing::ExpectCaptions(window_.get(), WindowId::kPrincipale, world_->text);
+  ExpectCaptions(window_.get(), WindowId::kPrincipale, world_->text);
 }
 
 // Each of these can be used and is reached by a letter that none of the others has.
@@ -107,9 +105,9 @@ void PrincipaleTest::EveryCommandIsEnabledAndHasAnAccessKeyOfItsOwn() {
 
 void PrincipaleTest::TabFollowsTheReadingOrder() {
   QVERIFY(List()->hasFocus());
-  testing::ExpectTabOrder({"Pul_Zoom", "Pul_CambiaProp", "Text_Note", "Text_PathSavegame",
-                           "Text_TotSavegame", "Text_TotCartelle", "Pul_Cerca", "Pul_Precedente",
-                           "Text_Trovati", "Pul_Seguente", "Pul_Play", "Pul_StartTomb", "List1"});
+  ExpectTabOrder({"Pul_Zoom", "Pul_CambiaProp", "Text_Note", "Text_PathSavegame",
+                  "Text_TotSavegame", "Text_TotCartelle", "Pul_Cerca", "Pul_Precedente",
+                  "Text_Trovati", "Pul_Seguente", "Pul_Play", "Pul_StartTomb", "List1"});
   QVERIFY(!Find<QWidget>("Image1")->accessibleName().isEmpty());
   QVERIFY(Find<QPlainTextEdit>("Text_Note")->isReadOnly());
   QCOMPARE(TextOf("Text_TotSavegame"), QStringLiteral("3"));

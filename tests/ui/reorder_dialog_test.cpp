@@ -11,13 +11,7 @@
 
 namespace vellumark {
 
-using testing::Click;
-using testing::Find;
-using testing::IsTicked;
-using testing::TextOf;
-using testing::Type;
-
-class ReorderDialogTest : public testing::WindowFixture {
+class ReorderDialogTest : public WindowFixture {
   Q_OBJECT
 
  private slots:

@@ -11,14 +11,7 @@
 
 namespace vellumark {
 
-using testing::Click;
-using testing::Find;
-using testing::IsTicked;
-using testing::Press;
-using testing::TextOf;
-using testing::Type;
-
-class SavegamePropertiesDialogTest : public testing::WindowFixture {
+class SavegamePropertiesDialogTest : public WindowFixture {
   Q_OBJECT
 
  private slots:
@@ -47,7 +40,7 @@ void SavegamePropertiesDialogTest::Prepare() {
   world_->AddSavegame("Archive/Slot1", 0, "Angkor Wat", 1);
   world_->AddSavegame("Archive/Slot1", 3, "Tower", 12);
   world_->disk.Write("Archive/Slot1/NOTE3.TXT", "one\x8D\ntwo\r\n");
-  world_->disk.Write("Archive/Slot1/shot3.jpg", testing::Jpeg(Qt::red));
+  world_->disk.Write("Archive/Slot1/shot3.jpg", Jpeg(Qt::red));
 }
 
 void SavegamePropertiesDialogTest::InProperties(const std::function<void(QDialog*)>& act) {
@@ -120,7 +113,7 @@ void SavegamePropertiesDialogTest::TypedValuesGoToTheSavegameOfTheOpening() {
 }
 
 void SavegamePropertiesDialogTest::CancelAppliesNothingButALinkedScreenShot() {
-  const std::string new_shot = testing::Jpeg(Qt::blue);
+  const std::string new_shot = Jpeg(Qt::blue);
   world_->disk.Write("new.jpg", new_shot);
   world_->disk.Write("text.jpg", "no picture");
   InProperties([this](const QDialog* dialog) {

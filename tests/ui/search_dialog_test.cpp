@@ -9,13 +9,7 @@
 
 namespace vellumark {
 
-using testing::Click;
-using testing::Find;
-using testing::IsTicked;
-using testing::TextOf;
-using testing::Type;
-
-class SearchDialogTest : public testing::WindowFixture {
+class SearchDialogTest : public WindowFixture {
   Q_OBJECT
 
  private slots:

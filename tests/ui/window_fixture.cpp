@@ -12,7 +12,7 @@
 #include "platform/qt/qt_text.h"
 #include "ui/access_keys.h"
 
-namespace vellumark::testing {
+namespace vellumark {
 
 QString TextOf(const QWidget* window, const char* control) {
   return Find<QWidget>(window, control)->property("text").toString();
@@ -73,7 +73,7 @@ void ExpectTabOrder(const QStringList& controls) {
 }
 
 void WindowFixture::init() {
-  world_ = std::make_unique<TestWorld>();
+  world_ = std::make_unique<testing::TestWorld>();
   world_->WriteArchiveFile();
   world_->WritePreferences();
   Prepare();
@@ -120,4 +120,4 @@ void WindowFixture::InDialog(const std::function<void()>& open,
   QVERIFY2(acted, "no dialog has opened");
 }
 
-}  // namespace vellumark::testing
+}  // namespace vellumark

@@ -13,7 +13,7 @@
 #include "support/test_world.h"
 #include "ui/principale.h"
 
-namespace vellumark::testing {
+namespace vellumark {
 
 template <typename Widget>
 Widget* Find(const QWidget* window, const char* name) {
@@ -59,12 +59,12 @@ class WindowFixture : public QObject {
   // Opens a modal dialog; `act` is done in it, and it is cancelled then if it is still open.
   void InDialog(const std::function<void()>& open, const std::function<void(QDialog*)>& act);
 
-  std::unique_ptr<TestWorld> world_;
+  std::unique_ptr<testing::TestWorld> world_;
   std::unique_ptr<Principale> window_;
   std::unique_ptr<Program> program_;
   bool cancelled_ = false;  // whether the last dialog was still open
 };
 
-}  // namespace vellumark::testing
+}  // namespace vellumark
 
 #endif  // VELLUMARK_TESTS_UI_WINDOW_FIXTURE_H_
