@@ -24,7 +24,6 @@ class QtServicesTest : public QObject {
   void MessageBoxesAnswerKeys();
   void MessageBoxesShowTextAsItIs();
   void ALongTextScrolls();
-  void TheTimerRunsWhileABoxWaits();
   void FileDialogsStartWhereTheyAreTold();
   void FileDialogsExplainAPathThatCannotBeUsed();
   void FiltersAreWrittenAsQtWants();
@@ -88,17 +87,6 @@ void QtServicesTest::ALongTextScrolls() {
     box->accept();
   });
   QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kExclamation);
-}
-
-void QtServicesTest::TheTimerRunsWhileABoxWaits() {
-  int ticks = 0;
-  QTimer timer;
-  connect(&timer, &QTimer::timeout, this, [&ticks] {
-    if (++ticks == 3) QApplication::activeModalWidget()->close();
-  });
-  timer.start(20);
-  QtMessageBoxes(world_.text).Show("waiting", BoxButtons::kOk, BoxIcon::kCritical);
-  QCOMPARE(ticks, 3);
 }
 
 void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
