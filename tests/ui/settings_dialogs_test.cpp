@@ -71,11 +71,13 @@ void SettingsDialogsTest::PreferencesAreStoredOnOkOnly() {
     QTRY_VERIFY(!IsTicked(dialog, "Check_AvvioAutomatico"));
     QTest::keyClick(dialog, Qt::Key_A, Qt::AltModifier);
     QTRY_VERIFY(IsTicked(dialog, "Check_TutteLeDir"));
+    QTest::keyClick(dialog, Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(IsTicked(dialog, "Check_Suoni"));
     QTest::keyClick(dialog, Qt::Key_Return);
   });
   QVERIFY(!cancelled_);
   QVERIFY(!program_->preferences.AutoCapture);
-  QVERIFY(program_->preferences.ScanAllSubfolders);
+  QVERIFY(program_->preferences.ScanAllSubfolders && program_->preferences.SoundEffects);
 }
 
 void SettingsDialogsTest::SoundsAreHeardFromTheNextOneOn() {
@@ -84,6 +86,7 @@ void SettingsDialogsTest::SoundsAreHeardFromTheNextOneOn() {
     Click(dialog, "Pul_Ok");
   });
   QVERIFY(world_->sounds.played.empty());
+  QVERIFY(program_->preferences.AutoCapture && !program_->preferences.ScanAllSubfolders);
   InDialog("mnu_PrefArchive", [](const QDialog*) {});
   QCOMPARE(world_->sounds.played.size(), std::size_t{1});
 }
