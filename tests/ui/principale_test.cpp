@@ -293,7 +293,8 @@ void PrincipaleTest::ClosingShutsDownOnce() {
   QVERIFY(!window_->isVisible());
   QCOMPARE(world_->disk.Read("Archive.vmk").substr(1026), std::string("\3\0\0\0", 4));
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);
-  window_->close();
+  QCloseEvent again;
+  QApplication::sendEvent(window_.get(), &again);
   QCOMPARE(closed.count(), 1);
 }
 
