@@ -60,6 +60,7 @@ void QtServicesTest::MessageBoxesAnswerKeys() {
   for (const auto& [buttons, key, answer] : cases) {
     WithNext<QMessageBox>([key = key](QMessageBox* box) {
       QCOMPARE(box->windowTitle(), QStringLiteral("Vellumark"));
+      QCOMPARE(box->icon(), QMessageBox::Warning);
       QTest::keyClick(box, key);
     });
     QCOMPARE(QtMessageBoxes(world_.text).Show("text", buttons, BoxIcon::kExclamation), answer);
@@ -82,11 +83,12 @@ void QtServicesTest::ALongTextScrolls() {
   WithNext<QMessageBox>([](QMessageBox* box) {
     auto* whole = box->findChild<QTextEdit*>();
     QVERIFY(whole != nullptr && whole->isVisible());
+    QCOMPARE(box->icon(), QMessageBox::Critical);
     QVERIFY(whole->toPlainText().contains(QLatin1String("line 99")));
     QVERIFY(box->height() < 600);
     box->accept();
   });
-  QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kExclamation);
+  QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kCritical);
 }
 
 void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
