@@ -61,7 +61,9 @@ bool StandIn::Obey(const std::string& command) {
     std::string level;
     if (!(words >> slot >> counter >> std::ws && std::getline(words, level))) return false;
     return WriteSlot(slot, counter, level);
-  } else if (verb == "print-screen") {
+  }
+
+  if (verb == "print-screen") {
     window_.PutOnClipboard(PictureAsBmp());
   } else if (verb == "minimize") {
     window_.Minimize();
