@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "ui/picture_box.h"
 #include "ui/savegame_list.h"
@@ -293,6 +294,7 @@ void PrincipaleTest::ClosingShutsDownOnce() {
   QVERIFY(!window_->isVisible());
   QCOMPARE(world_->disk.Read("Archive.vmk").substr(1026), std::string("\3\0\0\0", 4));
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);
+  QVERIFY2(ModalOpener() == nullptr, "no dialog opens over a window that is gone");
   QCloseEvent again;
   QApplication::sendEvent(window_.get(), &again);
   QCOMPARE(closed.count(), 1);
