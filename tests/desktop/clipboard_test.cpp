@@ -91,12 +91,17 @@ TEST(Clipboard, IsEmptiedForEveryProgram) {
   EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->formats().isEmpty());
 }
 
+// What a picture is after it has been a JPEG.
+QImage ThroughJpeg(const QImage& picture) {
+  const auto bytes = QtPicture(picture).ToJpeg();
+  EXPECT_TRUE(bytes.has_value());
+  return QImage::fromData(QByteArray::fromStdString(bytes.value_or("")), "JPG");
+}
+
 TEST(Picture, KeepsItsDetailAsJpeg) {
   // A quarter of a 4K screen, at which a block of the encoder sees more detail than at the whole.
   const QImage picture = NoisyScene({1920, 1080});
-  const auto bytes = QtPicture(picture).ToJpeg();
-  ASSERT_TRUE(bytes.has_value());
-  const QImage decoded = QImage::fromData(QByteArray::fromStdString(*bytes), "JPG");
+  const QImage decoded = ThroughJpeg(picture);
   ASSERT_EQ(decoded.size(), picture.size());
   EXPECT_GE(SignalToNoise(picture, decoded), 35.0);
 }
@@ -104,10 +109,7 @@ TEST(Picture, KeepsItsDetailAsJpeg) {
 TEST(Picture, IsBlackWhereItIsTransparent) {
   QImage picture(64, 64, QImage::Format_ARGB32);
   picture.fill(qRgba(255, 255, 255, 0));
-  const auto bytes = QtPicture(picture).ToJpeg();
-  ASSERT_TRUE(bytes.has_value());
-  const QImage decoded = QImage::fromData(QByteArray::fromStdString(*bytes), "JPG");
-  EXPECT_EQ(decoded.pixel(32, 32), qRgb(0, 0, 0));
+  EXPECT_EQ(ThroughJpeg(picture).pixel(32, 32), qRgb(0, 0, 0));
 }
 
 TEST(Picture, IsNothingWhenItCannotBeEncoded) {

@@ -1,20 +1,16 @@
 # What the sessions share that play with a stand-in for the game; sourced by them after session.sh.
-# They set `game`, the game folder, where the stand-in runs and writes its log.
+# `game` is the game folder, where the stand-in runs and writes its log.
 
-main='Vellumark - savegame archive'
 game_title='^Tomb Raider - The Last Revelation$'
 capture='^Tomb Raider screen-shot captured$'
 
 log_count() { grep -cxE "$1" "$game/stand-in.log" || true; }
 
 # Waits until the stand-in's log has a number of lines that match a pattern; fails when it has more.
+log_has() { [ "$(log_count "$2")" -ge "$1" ]; }
 wait_for_log() {
-  local deadline=$((SECONDS + 30))
-  until [ "$(log_count "$2")" -ge "$1" ]; do
-    [ $SECONDS -lt $deadline ] || fail "the game's log has not $1 times '$2': $(cat "$game/stand-in.log")"
-    sleep 0.05
-  done
-  [ "$(log_count "$2")" -eq "$1" ] || fail "the game's log has '$2' too often: $(cat "$game/stand-in.log")"
+  wait_until "the game's log has not $1 times '$2'" log_has "$@"
+  [ "$(log_count "$2")" -eq "$1" ] || fail "the game's log has '$2' too often"
 }
 
 # Lets the stand-in obey a command that it has not been given before.
@@ -23,16 +19,13 @@ tell_game() {
   wait_for_log 1 "done $1"
 }
 
-# Waits until the window with this title is the active one; nothing here brings it to the front. The
-# first start of Wine in a prefix takes a while.
-wait_until_in_front() {
-  local deadline=$((SECONDS + 60)) window
-  until window=$(xdotool search --onlyvisible --name "$1") &&
-    [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]; do
-    [ $SECONDS -lt $deadline ] || fail "'$1' does not come to the front"
-    sleep 0.05
-  done
+# Waits until the window with this title is the active one; nothing here brings it to the front.
+is_in_front() {
+  local window
+  window=$(xdotool search --onlyvisible --name "$1") &&
+    [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]
 }
+wait_until_in_front() { wait_until "'$1' does not come to the front" is_in_front "$1"; }
 
 # Takes a screen-shot in the game and waits for the dialog that shows it over the game.
 print_screen() {
@@ -49,15 +42,6 @@ link_screen_shot() {
   wait_until_gone "$dialog"
   wait_for_log 2 'key Return'
   wait_until_in_front "$game_title"
-}
-
-# Waits until a path exists.
-wait_for_file() {
-  local deadline=$((SECONDS + 30))
-  until [ -e "$1" ]; do
-    [ $SECONDS -lt $deadline ] || fail "there is no $1"
-    sleep 0.05
-  done
 }
 
 # Selects lines of the main window's list, counted from 0 and in rising order, by the keyboard.
@@ -88,8 +72,8 @@ expect_slots() {
   [ "$found" = "$expected" ] || fail "$folder holds: $found"
 }
 
-# Fails unless a file is a JPEG of the picture that the stand-in takes first.
-expect_first_picture() {
+# Fails unless a file is a JPEG of the stand-in's picture.
+expect_picture() {
   [ "$(identify -format '%m %w %h' "$1")" = "JPEG 640 480" ] || fail "$1 is no such JPEG"
   local corner colour found
   for corner in '9,9 224,0,0' '630,9 0,224,0' '9,470 0,0,224' '630,470 255,255,255'; do

@@ -1,8 +1,6 @@
 # What the sessions share that lead the Windows program under Wine; sourced by them after session.sh.
 # They copy the programs' folders to `windows` and `linux` in `work`.
 
-main='Vellumark - savegame archive'
-
 # Starts the Windows program, or the Linux program, on a preferences file. The command line is read
 # in each system's own spelling of the path.
 start_windows() {
@@ -13,9 +11,4 @@ start_windows() {
 start_linux() {
   QT_QPA_PLATFORM=xcb "$work/linux/vellumark" "$1" &
   program=$!
-}
-
-close_program() {
-  press_in "$main" ctrl+q
-  wait "$program" || fail "the program ended with an error"
 }

@@ -17,7 +17,9 @@ std::string SavegameBytes(const std::string& level, std::int16_t counter, int se
   return bytes;
 }
 
-TestWorld::TestWorld() : drives(text, {{'T', disk.path().string()}}), files(drives.files()) {
+TestWorld::TestWorld()
+    : drives(text, {{'N', (disk.path() / "no medium").string()}, {'T', disk.path().string()}}),
+      files(drives.files()) {
   disk.MakeFolder("Program");
   disk.MakeFolder("Game");
   disk.MakeFolder("Archive");

@@ -1,5 +1,5 @@
 // A program under test on a disk of its own: drive T: is a temporary folder with the program in
-// T:\Program, the game in T:\Game and an archive in T:\Archive.
+// T:\Program, the game in T:\Game and an archive in T:\Archive. Drive N: is not ready.
 #ifndef VELLUMARK_TESTS_SUPPORT_TEST_WORLD_H_
 #define VELLUMARK_TESTS_SUPPORT_TEST_WORLD_H_
 

@@ -1,77 +1,52 @@
 // The capture dialog over the real main window and over other dialogs.
 #include "ui/capture_dialog.h"
 
-#include <QAction>
 #include <QFileDialog>
-#include <QGroupBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTextBlock>
-#include <QtTest>
-#include <functional>
-#include <memory>
 
 #include "foundation/messages.h"
 #include "game/capture.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_text.h"
-#include "program.h"
 #include "savegames/details.h"
-#include "support/test_world.h"
-#include "ui/access_keys.h"
 #include "ui/note_box.h"
 #include "ui/picture_box.h"
-#include "ui/principale.h"
-#include "ui/savegame_list.h"
-#include "ui/savegame_properties_dialog.h"
-#include "ui/shown_program.h"
 #include "ui/slot_list.h"
+#include "ui/window_fixture.h"
 
 namespace vellumark {
 
-using testing::TestWorld;
-
-class CaptureDialogTest : public QObject {
+class CaptureDialogTest : public WindowFixture {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
-
   void ShowsThePictureTheSlotsAndItsCaptions();
   void KeysReachEveryControl();
   void TheFirstArrowKeyChoosesTheFirstSlot();
   void FitsASmallScreenWithAllSlots();
-  void ClosingArmsTheCaptureAgain_data();
   void ClosingArmsTheCaptureAgain();
   void NotesGoBackAsStored();
   void RefusalsLeaveTheDialogOpen();
   void ANoteThatCannotBeWrittenStays();
-  void TakesInputWhileAMessageBoxWaits();
   void TakesInputWhileTheDesktopsFileDialogWaits();
-  void MovesOnWhenTheWindowBelowCloses();
+  void TakesInputOverAMessageBoxAndMovesOnWhenItCloses();
   void PropertiesKeepTheirSavegameUnderACapture();
   void ItsOwnMessagesOpenOverIt();
 
  private:
+  void Prepare() override;
   CaptureDialog* Capture();
   void AddSlot(int slot, const char* level) const {
     world_->AddSavegame("Game", slot, level, static_cast<std::int16_t>(10 + slot));
   }
   // Lets a real message box wait and does something meanwhile.
-  void WhileABoxWaits(const std::function<void(QMessageBox*)>& act);
-
-  std::unique_ptr<TestWorld> world_;
-  std::unique_ptr<Principale> window_;
-  std::unique_ptr<Program> program_;
+  void WhileABoxWaits(const std::function<void(QDialog*)>& act);
+  // Acts in the properties of the first savegame.
+  void InProperties(const std::function<void(QDialog*)>& act);
 };
-
-template <typename Widget>
-Widget* Find(const QWidget* window, const char* name) {
-  return window->findChild<Widget*>(QLatin1String(name));
-}
 
 CaptureDialog* OpenDialog() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -83,12 +58,6 @@ CaptureDialog* OpenDialog() {
 
 NoteBox* Note(const QWidget* dialog) { return Find<NoteBox>(dialog, "Text_Note"); }
 SlotList* Slots(const QWidget* dialog) { return Find<SlotList>(dialog, "Combo_Slot"); }
-
-// A window counts as active for Qt also while one that it stands over has the input focus.
-bool GetsFocus(QWidget* window) {
-  return QTest::qWaitFor(
-      [window] { return QGuiApplication::focusWindow() == window->windowHandle(); });
-}
 
 // Input that goes the way of the window system's, so that a modal window can stop it.
 void Click(QWidget* control, const QPoint& place) {
@@ -111,44 +80,32 @@ void Type(const QWidget* dialog, const char* text) {
   }
 }
 
-void CaptureDialogTest::init() {
-  world_ = std::make_unique<TestWorld>();
-  world_->WriteArchiveFile();
-  world_->WritePreferences();
+void CaptureDialogTest::Prepare() {
   world_->AddSavegame("Archive/Slot1", 0, "Angkor Wat", 90);
   AddSlot(0, "North");
   AddSlot(2, "South");
   world_->desktop.open = {{6, LoadMessage(330)}};
-  ShowProgram(*world_, window_, program_);
-  program_->capture.CaptureArmed = true;
-}
-
-void CaptureDialogTest::cleanup() {
-  window_.reset();
-  program_.reset();
-  world_.reset();
 }
 
 CaptureDialog* CaptureDialogTest::Capture() {
   QImage screen(640, 480, QImage::Format_RGB32);
   screen.fill(Qt::darkCyan);
   world_->clipboard.content = std::make_shared<QtPicture>(screen);
+  program_->capture.CaptureArmed = true;
   OnTimer(*program_);
   CaptureDialog* dialog = OpenDialog();
   return dialog != nullptr && GetsFocus(dialog) ? dialog : nullptr;
 }
 
-void CaptureDialogTest::WhileABoxWaits(const std::function<void(QMessageBox*)>& act) {
-  bool acted = false;
-  QTimer::singleShot(50, window_.get(), [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    QVERIFY(box != nullptr && GetsFocus(box));
-    act(box);
-    acted = true;
-    box->accept();
-  });
-  QtMessageBoxes(world_->text).Show("waiting", BoxButtons::kOk, BoxIcon::kNone);
-  QVERIFY(acted);
+void CaptureDialogTest::WhileABoxWaits(const std::function<void(QDialog*)>& act) {
+  InDialog(
+      [this] { QtMessageBoxes(world_->text).Show("waiting", BoxButtons::kOk, BoxIcon::kNone); },
+      act);
+}
+
+void CaptureDialogTest::InProperties(const std::function<void(QDialog*)>& act) {
+  SelectOnly(*program_, 0);
+  InDialog([this] { window_->ShowModal(WindowId::kDialogNote); }, act);
 }
 
 void CaptureDialogTest::ShowsThePictureTheSlotsAndItsCaptions() {
@@ -162,28 +119,15 @@ void CaptureDialogTest::ShowsThePictureTheSlotsAndItsCaptions() {
       dialog->grab().toImage().pixelColor(Find<QWidget>(dialog, "Image1")->geometry().center()),
       QColor(Qt::darkCyan));
 
-  for (const Caption& caption : CaptionsOf(WindowId::kDialogCattura)) {
-    const bool is_window = *caption.control == '\0';
-    auto* control = is_window ? dialog : Find<QWidget>(dialog, caption.control);
-    QVERIFY2(control != nullptr, caption.control);
-    const bool is_frame = qobject_cast<QGroupBox*>(control) != nullptr;
-    const char* property = is_window ? "windowTitle" : is_frame ? "title" : "text";
-    QCOMPARE(WithoutAccessKey(control->property(property).toString()),
-             ToQString(world_->text, LoadMessage(caption.message)));
-  }
-  for (const char* name : {"Image1", "Combo_Slot", "Text_Note"}) {
-    QVERIFY2(!Find<QWidget>(dialog, name)->accessibleName().isEmpty(), name);
-  }
+  QCOMPARE(dialog->windowTitle(), QStringLiteral("Tomb Raider screen-shot captured"));
+  ExpectCaptions(dialog, WindowId::kDialogCattura, world_->text);
+  QVERIFY(!Find<QWidget>(dialog, "Image1")->accessibleName().isEmpty());
 }
 
 void CaptureDialogTest::KeysReachEveryControl() {
   CaptureDialog* dialog = Capture();
   QVERIFY(Slots(dialog)->hasFocus());
-  for (const char* next :
-       {"Text_Note", "Pul_SalvaScreenShot", "Pul_Ok", "Pul_Annulla", "Combo_Slot"}) {
-    QTest::keyClick(dialog->windowHandle(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(next));
-  }
+  ExpectTabOrder({"Text_Note", "Pul_SalvaScreenShot", "Pul_Ok", "Pul_Annulla", "Combo_Slot"});
   QTest::keyClick(dialog->windowHandle(), Qt::Key_N, Qt::AltModifier);
   QVERIFY(Note(dialog)->hasFocus());
   QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
@@ -219,42 +163,36 @@ void CaptureDialogTest::FitsASmallScreenWithAllSlots() {
   QVERIFY(Note(dialog)->viewport()->height() >= 2 * Note(dialog)->fontMetrics().lineSpacing());
 }
 
-void CaptureDialogTest::ClosingArmsTheCaptureAgain_data() {
-  QTest::addColumn<QString>("way");
-  QTest::addColumn<bool>("back_to_game");
-  QTest::newRow("OK") << QStringLiteral("Pul_Ok") << true;
-  QTest::newRow("Cancel") << QStringLiteral("Pul_Annulla") << true;
-  QTest::newRow("Escape") << QStringLiteral("escape") << false;
-  QTest::newRow("close box") << QStringLiteral("close") << false;
-  QTest::newRow("shut-down") << QStringLiteral("program") << false;
-}
-
 void CaptureDialogTest::ClosingArmsTheCaptureAgain() {
-  QFETCH(const QString, way);
-  QFETCH(const bool, back_to_game);
-  CaptureDialog* dialog = Capture();
-  QVERIFY(program_->capture.CaptureDialogOpen && !program_->capture.CaptureArmed);
-  Choose(dialog, 2);
-  Type(dialog, "typed");
-  QCOMPARE(program_->capture.typed_note, std::string("typed"));
-  if (way == QStringLiteral("escape")) {
-    QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
-  } else if (way == QStringLiteral("close")) {
-    dialog->close();
-  } else if (way == QStringLiteral("program")) {
-    window_->CloseDialog(WindowId::kDialogCattura);
-  } else {
-    Press(dialog, way.toLatin1().constData());
+  const struct {
+    const char* name;
+    std::function<void(CaptureDialog*)> close;
+    bool back_to_game;
+    bool links;
+  } ways[] = {{"Cancel", [](CaptureDialog* dialog) { Press(dialog, "Pul_Annulla"); }, true, false},
+              {"Escape", [](CaptureDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); },
+               false, false},
+              {"close box", [](CaptureDialog* dialog) { dialog->close(); }, false, false},
+              {"shut-down", [this](auto*) { window_->CloseDialog(WindowId::kDialogCattura); },
+               false, false},
+              {"OK", [](CaptureDialog* dialog) { Press(dialog, "Pul_Ok"); }, true, true}};
+  for (const auto& way : ways) {
+    // The next picture does not wait until the old dialog is gone.
+    CaptureDialog* dialog = Capture();
+    QVERIFY2(dialog != nullptr, way.name);
+    QVERIFY(program_->capture.CaptureDialogOpen && !program_->capture.CaptureArmed);
+    world_->desktop.activated.clear();
+    Choose(dialog, 2);
+    Type(dialog, "typed");
+    QCOMPARE(program_->capture.typed_note, std::string("typed"));
+    way.close(dialog);
+    QVERIFY2(OpenDialog() == nullptr, way.name);
+    QVERIFY(!program_->capture.CaptureDialogOpen && program_->capture.CaptureArmed);
+    QVERIFY(program_->capture.typed_note.empty());
+    QVERIFY(world_->clipboard.content == nullptr);
+    QVERIFY2(world_->desktop.activated.empty() != way.back_to_game, way.name);
+    QVERIFY2(world_->disk.Exists("Game/note2.txt") == way.links, way.name);
   }
-  QVERIFY(OpenDialog() == nullptr);
-  QVERIFY(!program_->capture.CaptureDialogOpen && program_->capture.CaptureArmed);
-  QVERIFY(program_->capture.typed_note.empty());
-  QVERIFY(world_->clipboard.content == nullptr);
-  QCOMPARE(!world_->desktop.activated.empty(), back_to_game);
-  QCOMPARE(world_->disk.Exists("Game/note2.txt"), way == QStringLiteral("Pul_Ok"));
-
-  // The next picture does not wait until the old dialog is gone.
-  QVERIFY(Capture() != nullptr);
 }
 
 void CaptureDialogTest::NotesGoBackAsStored() {
@@ -313,22 +251,6 @@ void CaptureDialogTest::ANoteThatCannotBeWrittenStays() {
   QVERIFY(world_->disk.Exists("Game/shot2.jpg"));
 }
 
-void CaptureDialogTest::TakesInputWhileAMessageBoxWaits() {
-  WhileABoxWaits([this](QMessageBox*) {
-    auto* list = Find<SavegameList>(window_.get(), "List1");
-    SelectOnly(*program_, 0);
-    Click(list->viewport(), list->visualRect(list->model()->index(1, 0)).center());
-    QCOMPARE(list->SelectedLines(), std::vector<int>{0});  // the box does block the main window
-
-    CaptureDialog* dialog = Capture();
-    Choose(dialog, 2);
-    Type(dialog, "typed");
-    Press(dialog, "Pul_Ok");
-    QVERIFY(OpenDialog() == nullptr);
-  });
-  QCOMPARE(world_->disk.Read("Game/note2.txt"), std::string("typed\r\n"));
-}
-
 // The desktop's own dialog stands in front of one of ours that is modal, but not on the screen.
 void CaptureDialogTest::TakesInputWhileTheDesktopsFileDialogWaits() {
   QFileDialog files(window_.get());
@@ -346,14 +268,13 @@ void CaptureDialogTest::TakesInputWhileTheDesktopsFileDialogWaits() {
   QCOMPARE(world_->disk.Read("Game/note0.txt"), std::string("typed\r\n"));
 }
 
-void CaptureDialogTest::MovesOnWhenTheWindowBelowCloses() {
-  SelectOnly(*program_, 0);
+void CaptureDialogTest::TakesInputOverAMessageBoxAndMovesOnWhenItCloses() {
   CaptureDialog* dialog = nullptr;
   QPoint place;
-  QTimer::singleShot(50, window_.get(), [&] {
-    auto* properties = QApplication::activeModalWidget();
-    const auto close = qScopeGuard([properties] { properties->close(); });
-    WhileABoxWaits([&](QMessageBox* box) {
+  InProperties([&](QDialog* properties) {
+    WhileABoxWaits([&](QDialog* box) {
+      Press(properties, "Pul_Annulla");
+      QVERIFY2(properties->isVisible(), "the box blocks what is below it");
       dialog = Capture();
       QVERIFY(dialog != nullptr && dialog->parentWidget() == box);
       Choose(dialog, 2);
@@ -365,7 +286,6 @@ void CaptureDialogTest::MovesOnWhenTheWindowBelowCloses() {
     QTRY_COMPARE(dialog->pos(), place);
     Choose(dialog, 0);
   });
-  window_->ShowModal(WindowId::kDialogNote);
 
   QVERIFY(dialog != nullptr && dialog == OpenDialog());
   QCOMPARE(dialog->parentWidget(), window_.get());
@@ -379,10 +299,7 @@ void CaptureDialogTest::MovesOnWhenTheWindowBelowCloses() {
 }
 
 void CaptureDialogTest::PropertiesKeepTheirSavegameUnderACapture() {
-  SelectOnly(*program_, 0);
-  QTimer::singleShot(50, window_.get(), [this] {
-    auto* properties = QApplication::activeModalWidget();
-    const auto close = qScopeGuard([properties] { properties->close(); });
+  InProperties([this](QDialog* properties) {
     auto* comment = Find<NoteBox>(properties, "Text_Commento");
     comment->insertPlainText(QStringLiteral("of Angkor Wat"));
     CaptureDialog* dialog = Capture();
@@ -395,7 +312,6 @@ void CaptureDialogTest::PropertiesKeepTheirSavegameUnderACapture() {
     QVERIFY(properties->isVisible());
     Press(properties, "Pul_Ok");
   });
-  window_->ShowModal(WindowId::kDialogNote);
   QCOMPARE(world_->disk.Read("Archive/Slot1/note0.txt"), std::string("of Angkor Wat\r\n"));
   QCOMPARE(world_->disk.Read("Game/note2.txt"), std::string("of South\r\n"));
 }
@@ -406,7 +322,7 @@ void CaptureDialogTest::ItsOwnMessagesOpenOverIt() {
     ++shown;
     CaptureDialog* dialog = OpenDialog();
     QCOMPARE(ModalOpener(), dialog);
-    WhileABoxWaits([dialog](QMessageBox* box) {
+    WhileABoxWaits([dialog](QDialog* box) {
       QCOMPARE(box->parentWidget(), dialog);
       QCOMPARE(ModalOpener(), box);
       Type(dialog, "x");
@@ -417,7 +333,7 @@ void CaptureDialogTest::ItsOwnMessagesOpenOverIt() {
   CaptureDialog* dialog = Capture();
   Press(dialog, "Pul_Ok");
   dialog->reject();
-  WhileABoxWaits([&](QMessageBox* box) {
+  WhileABoxWaits([&](QDialog* box) {
     Press(Capture(), "Pul_Ok");
     QCOMPARE(ModalOpener(), box);
     OpenDialog()->reject();

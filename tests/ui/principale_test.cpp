@@ -2,39 +2,28 @@
 #include "ui/principale.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QtTest>
-#include <memory>
 
-#include "foundation/messages.h"
+#include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
-#include "program.h"
-#include "support/test_world.h"
-#include "ui/access_keys.h"
 #include "ui/picture_box.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_shot_viewer.h"
-#include "ui/shown_program.h"
+#include "ui/window_fixture.h"
 
 namespace vellumark {
 
-class PrincipaleTest : public QObject {
+class PrincipaleTest : public WindowFixture {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
-
   void CaptionsAreTheMessagesByteForByte();
-  void AccessKeysDoNotClash();
+  void EveryCommandIsEnabledAndHasAnAccessKeyOfItsOwn();
   void TabFollowsTheReadingOrder();
-  void EveryControlCanBeTold();
-  void EveryCommandIsEnabled();
   void KeysChangeTheDetailsAsClicksDo();
   void CtrlAndTheSpaceBarSelectOneLineMore();
   void TheColumnsOfTheListAlign();
@@ -49,32 +38,28 @@ class PrincipaleTest : public QObject {
   void ClosingShutsDownOnce();
 
  private:
-  void Start();
+  void Prepare() override;
+
   template <typename Widget>
   Widget* Find(const char* name) const {
-    return window_->findChild<Widget*>(QLatin1String(name));
+    return vellumark::Find<Widget>(window_.get(), name);
   }
-  QString FieldText(const char* name) const { return Find<QLineEdit>(name)->text(); }
-
-  std::unique_ptr<testing::TestWorld> world_;
-  std::unique_ptr<Principale> window_;
-  std::unique_ptr<Program> program_;
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
+    QTest::keyClick(List(), key, modifiers);
+  }
+  void Click(const char* button) const { vellumark::Click(window_.get(), button); }
+  QString TextOf(const char* field) const { return vellumark::TextOf(window_.get(), field); }
+  SavegameList* List() const { return Find<SavegameList>("List1"); }
+  QString Row(int row) const { return List()->model()->index(row, 0).data().toString(); }
+  QPoint PlaceOf(int row) const {
+    return List()->visualRect(List()->model()->index(row, 0)).center();
+  }
+  void ClickRow(int row, Qt::KeyboardModifiers modifiers = {}) const {
+    QTest::mouseClick(List()->viewport(), Qt::LeftButton, modifiers, PlaceOf(row));
+  }
 };
 
-// A picture of one colour, as a JPEG file's bytes.
-std::string Jpeg(Qt::GlobalColor colour) {
-  QImage image(64, 48, QImage::Format_RGB32);
-  image.fill(colour);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  image.save(&buffer, "JPEG");
-  return bytes.toStdString();
-}
-
-void PrincipaleTest::init() {
-  world_ = std::make_unique<testing::TestWorld>();
-  world_->WriteArchiveFile();
-  world_->WritePreferences();
+void PrincipaleTest::Prepare() {
   world_->disk.Write("Program/default_shot.jpg", Jpeg(Qt::gray));
   world_->AddSavegame("Archive/Slot1", 0, "Angkor Wat", 1);
   world_->AddSavegame("Archive/Slot1", 1, "Race For The Iris", 2);
@@ -84,146 +69,87 @@ void PrincipaleTest::init() {
   world_->disk.Write("Archive/Slot1/shot2.jpg", "no picture at all");
 }
 
-void PrincipaleTest::Start() { ShowProgram(*world_, window_, program_); }
-
-void PrincipaleTest::cleanup() {
-  window_.reset();
-  program_.reset();
-  world_.reset();
-}
-
 void PrincipaleTest::CaptionsAreTheMessagesByteForByte() {
-  Start();
-  for (const Caption& caption : CaptionsOf(WindowId::kPrincipale)) {
-    const QString expected = ToQString(world_->text, LoadMessage(caption.message));
-    const QString name = QLatin1String(caption.control);
-    if (name.isEmpty()) {
-      QCOMPARE(window_->windowTitle(), expected);
-      continue;
-    }
-    auto* control = window_->findChild<QObject*>(name);
-    QVERIFY2(control != nullptr, caption.control);
-    const char* property = qobject_cast<QMenu*>(control) != nullptr ? "title" : "text";
-    QCOMPARE(WithoutAccessKey(control->property(property).toString()), expected);
-    if (caption.tool_tip != 0) {
-      QCOMPARE(control->property("toolTip").toString(),
-               ToQString(world_->text, LoadMessage(caption.tool_tip)));
-    }
+  QCOMPARE(window_->windowTitle(), QStringLiteral(" Vellumark - savegame archive"));
+  ExpectCaptions(window_.get(), WindowId::kPrincipale, world_->text);
+}
+
+// Each of these can be used and is reached by a letter that none of the others has.
+template <typename Control>
+void ExpectUsable(const QList<Control*>& controls, QSet<QChar>& keys) {
+  for (const Control* control : controls) {
+    const QString text = control->text();
+    const qsizetype mark = text.indexOf(u'&');
+    QVERIFY2(mark >= 0 && control->isEnabled(), qPrintable(text));
+    QVERIFY2(!keys.contains(text[mark + 1].toLower()), qPrintable(text));
+    keys.insert(text[mark + 1].toLower());
   }
 }
 
-QChar AccessKeyOf(const QString& caption) {
-  const qsizetype at = caption.indexOf(u'&');
-  return at < 0 ? QChar() : caption[at + 1].toLower();
-}
-
-void PrincipaleTest::AccessKeysDoNotClash() {
-  Start();
-  QList<QChar> window_keys;
-  for (const QPushButton* button : window_->findChildren<QPushButton*>()) {
-    const QChar key = AccessKeyOf(button->text());
-    const QString name = button->objectName();
-    if (name == QLatin1String("Pul_Precedente") || name == QLatin1String("Pul_Seguente")) continue;
-    QVERIFY2(!key.isNull(), qPrintable(name));
-    window_keys.append(key);
+void PrincipaleTest::EveryCommandIsEnabledAndHasAnAccessKeyOfItsOwn() {
+  QList<QPushButton*> buttons = window_->findChildren<QPushButton*>();
+  // These two have keys of another kind.
+  for (const char* step : {"Pul_Precedente", "Pul_Seguente"}) {
+    QVERIFY(Find<QPushButton>(step)->isEnabled() && buttons.removeOne(Find<QPushButton>(step)));
   }
-  for (const QAction* top : window_->menuBar()->actions()) {
-    window_keys.append(AccessKeyOf(top->text()));
-    QList<QChar> menu_keys;
-    for (const QAction* item : top->menu()->actions()) {
-      if (!item->isSeparator()) menu_keys.append(AccessKeyOf(item->text()));
-    }
-    QVERIFY2(!menu_keys.contains(QChar()), qPrintable(top->text()));
-    QCOMPARE(QSet<QChar>(menu_keys.begin(), menu_keys.end()).size(), menu_keys.size());
+  QSet<QChar> window_keys;
+  ExpectUsable(buttons, window_keys);
+  const QList<QAction*> menus = window_->menuBar()->actions();
+  ExpectUsable(menus, window_keys);
+  for (const QAction* menu : menus) {
+    QList<QAction*> items = menu->menu()->actions();
+    items.removeIf([](const QAction* item) { return item->isSeparator(); });
+    QSet<QChar> menu_keys;
+    ExpectUsable(items, menu_keys);
   }
-  QVERIFY(!window_keys.contains(QChar()));
-  QCOMPARE(QSet<QChar>(window_keys.begin(), window_keys.end()).size(), window_keys.size());
 }
 
 void PrincipaleTest::TabFollowsTheReadingOrder() {
-  Start();
-  window_->activateWindow();
-  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-  QVERIFY(Find<SavegameList>("List1")->hasFocus());
-  for (const char* next : {"Pul_Zoom", "Pul_CambiaProp", "Text_Note", "Text_PathSavegame",
-                           "Text_TotSavegame", "Text_TotCartelle", "Pul_Cerca", "Pul_Precedente",
-                           "Text_Trovati", "Pul_Seguente", "Pul_Play", "Pul_StartTomb", "List1"}) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(next));
-  }
-}
-
-void PrincipaleTest::EveryControlCanBeTold() {
-  Start();
-  for (const char* name :
-       {"List1", "Text_TotSavegame", "Text_TotCartelle", "Text_PathSavegame", "Text_Note", "Image1",
-        "Text_Trovati", "Pul_StartTomb", "Pul_Play", "Pul_CambiaProp", "Pul_Zoom", "Pul_Cerca",
-        "Pul_Precedente", "Pul_Seguente"}) {
-    auto* control = Find<QWidget>(name);
-    QVERIFY2(control != nullptr, name);
-    QVERIFY2(!control->accessibleName().isEmpty(), name);
-  }
+  QVERIFY(List()->hasFocus());
+  ExpectTabOrder({"Pul_Zoom", "Pul_CambiaProp", "Text_Note", "Text_PathSavegame",
+                  "Text_TotSavegame", "Text_TotCartelle", "Pul_Cerca", "Pul_Precedente",
+                  "Text_Trovati", "Pul_Seguente", "Pul_Play", "Pul_StartTomb", "List1"});
+  QVERIFY(!Find<QWidget>("Image1")->accessibleName().isEmpty());
   QVERIFY(Find<QPlainTextEdit>("Text_Note")->isReadOnly());
-  QCOMPARE(FieldText("Text_TotSavegame"), QStringLiteral("3"));
-  QCOMPARE(FieldText("Text_TotCartelle"), QStringLiteral("1"));
-}
-
-void PrincipaleTest::EveryCommandIsEnabled() {
-  Start();
-  for (const char* name :
-       {"mnu_New", "mnu_Load", "mnu_Save", "mnu_SaveAs", "mnu_Exit", "mnu_Archivia", "mnu_Find",
-        "mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete", "mnu_Reorder",
-        "mnu_Scansione", "mnu_PrefArchive", "mnu_PrefManager", "mnu_ShowHelp"}) {
-    QVERIFY2(Find<QAction>(name)->isEnabled(), name);
-  }
-  for (const char* name : {"Pul_Zoom", "Pul_CambiaProp", "Pul_Cerca", "Pul_Precedente",
-                           "Pul_Seguente", "Pul_Play", "Pul_StartTomb"}) {
-    QVERIFY2(Find<QPushButton>(name)->isEnabled(), name);
-  }
+  QCOMPARE(TextOf("Text_TotSavegame"), QStringLiteral("3"));
+  QCOMPARE(TextOf("Text_TotCartelle"), QStringLiteral("1"));
 }
 
 void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
-  Start();
-  auto* list = Find<SavegameList>("List1");
-  QCOMPARE(FieldText("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
+  QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
 
-  QTest::keyClick(list, Qt::Key_Down);
-  QCOMPARE(FieldText("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.1"));
+  Press(Qt::Key_Down);
+  QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.1"));
   QCOMPARE(Find<QPlainTextEdit>("Text_Note")->toPlainText(),
            QString::fromUtf8("first\nsecond \u00E9"));
   QCOMPARE(Find<PictureBox>("Image1")->Picture().pixelColor(5, 5).red() > 200, true);
 
-  QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
-  QCOMPARE(FieldText("Text_PathSavegame"), QStringLiteral("Selected  2 savegames"));
+  Press(Qt::Key_Down, Qt::ShiftModifier);
+  QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("Selected  2 savegames"));
   QCOMPARE(Find<QPlainTextEdit>("Text_Note")->toPlainText(), QString());
-  QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_A, Qt::ControlModifier);
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 1, 2}));
 
-  const auto line = [list](int row) {
-    return list->visualRect(list->model()->index(row, 0)).center();
-  };
-
   // Another click on the same line looks at its files again.
-  QTest::keyClick(list, Qt::Key_Home);
+  Press(Qt::Key_Home);
   world_->disk.Write("Archive/Slot1/shot0.jpg", Jpeg(Qt::blue));
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line(0));
+  ClickRow(0);
   QVERIFY(Find<PictureBox>("Image1")->Picture().pixelColor(5, 5).blue() > 200);
 
   // The third line is clicked first; the selection is in line order all the same.
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line(2));
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, line(0));
+  ClickRow(2);
+  ClickRow(0, Qt::ControlModifier);
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 2}));
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, line(0));
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, line(2));
+  ClickRow(0, Qt::ControlModifier);
+  ClickRow(2, Qt::ControlModifier);
   QCOMPARE(program_->selection.Count(), std::int16_t{0});
-  QCOMPARE(FieldText("Text_PathSavegame"), QString());
+  QCOMPARE(TextOf("Text_PathSavegame"), QString());
 }
 
 void PrincipaleTest::CtrlAndTheSpaceBarSelectOneLineMore() {
-  Start();
-  auto* list = Find<SavegameList>("List1");
-  QTest::keyClick(list, Qt::Key_Home);
-  QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+  auto* list = List();
+  Press(Qt::Key_Home);
+  Press(Qt::Key_Down, Qt::ControlModifier);
   // As Windows reports it: with a blank as the text that it types.
   QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, QStringLiteral(" "));
   QApplication::sendEvent(list, &space);
@@ -232,15 +158,13 @@ void PrincipaleTest::CtrlAndTheSpaceBarSelectOneLineMore() {
 }
 
 void PrincipaleTest::TheColumnsOfTheListAlign() {
-  Start();
-  const QFontMetrics metrics(Find<SavegameList>("List1")->font());
+  const QFontMetrics metrics(List()->font());
   QCOMPARE(metrics.horizontalAdvance(QStringLiteral("iiii")),
            metrics.horizontalAdvance(QStringLiteral("WWWW")));
 }
 
 void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
-  Start();
-  auto* list = Find<SavegameList>("List1");
+  auto* list = List();
   QStringList names;
   const auto look = [&names] {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -252,7 +176,7 @@ void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
                                 "mnu_Delete"};
 
   // Another line by the mouse: it is selected first. Several: they stay selected.
-  const QPoint second = list->visualRect(list->model()->index(1, 0)).center();
+  const QPoint second = PlaceOf(1);
   const auto right_click = [&](QPoint at) {
     names.clear();
     QTimer::singleShot(50, this, look);
@@ -263,7 +187,7 @@ void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
   right_click(second);
   QCOMPARE(names, expected);
   QCOMPARE(program_->selection.indices, std::vector<std::int16_t>{1});
-  QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_A, Qt::ControlModifier);
   right_click(second);
   QCOMPARE(program_->selection.Count(), std::int16_t{3});
 
@@ -275,21 +199,17 @@ void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
 }
 
 void PrincipaleTest::DelAsksAndDeletesTheSelection() {
-  Start();
-  window_->activateWindow();
-  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-  auto* list = Find<SavegameList>("List1");
-  QTest::keyClick(list, Qt::Key_Down);
-  QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
+  auto* list = List();
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Down, Qt::ShiftModifier);
   world_->boxes.answers = {BoxAnswer::kYes};
-  QTest::keyClick(list, Qt::Key_Delete);
+  Press(Qt::Key_Delete);
   QCOMPARE(world_->disk.Names("Archive/Slot1"), std::vector<std::string>{"savegame.0"});
   QCOMPARE(list->model()->rowCount(), 1);
 }
 
 void PrincipaleTest::ARowShowsControlCharactersAsMarksOrBlanks() {
-  Start();
-  const QString row = Find<SavegameList>("List1")->model()->index(1, 0).data().toString();
+  const QString row = Row(1);
   QCOMPARE(row,
            QString::fromUtf8(" I    2 Race For The Iris            first\u00B6 second \u00E9"));
 
@@ -302,25 +222,22 @@ void PrincipaleTest::ARowShowsControlCharactersAsMarksOrBlanks() {
 }
 
 void PrincipaleTest::RescanKeepsNothingOfTheOldList() {
-  Start();
-  auto* list = Find<SavegameList>("List1");
-  QTest::keyClick(list, Qt::Key_End);
+  auto* list = List();
+  Press(Qt::Key_End);
   world_->AddSavegame("Archive/Slot1", 7, "Burial Chambers", 4);
   Find<QAction>("mnu_Scansione")->trigger();
   QCOMPARE(list->model()->rowCount(), 4);
   QCOMPARE(list->SelectedLines(), std::vector<int>{0});
-  QCOMPARE(FieldText("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
+  QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
 
   window_->ReplaceLine(2, std::string(37, ' ') + "new note");
-  QVERIFY(list->model()->index(2, 0).data().toString().endsWith(QLatin1String("new note")));
+  QVERIFY(Row(2).endsWith(QLatin1String("new note")));
   QCOMPARE(list->SelectedLines(), std::vector<int>{0});
 }
 
 void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
-  Start();
-  auto* list = Find<SavegameList>("List1");
-  QTest::keyClick(list, Qt::Key_Down);
-  QTest::mouseClick(Find<QPushButton>("Pul_Zoom"), Qt::LeftButton);
+  Press(Qt::Key_Down);
+  Click("Pul_Zoom");
   auto* viewer = Find<ScreenShotViewer>("Dialog_ScreenShot");
   QVERIFY(viewer != nullptr && viewer->isVisible() && !viewer->isModal());
   QVERIFY(program_->details.ViewerOpen);
@@ -329,9 +246,9 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
   const auto is_red = [picture] { return picture->Picture().pixelColor(5, 5).blue() < 60; };
   QVERIFY(is_red());
 
-  QTest::keyClick(list, Qt::Key_Up);
+  Press(Qt::Key_Up);
   QVERIFY2(is_red(), "another selection does not change the viewer");
-  QTest::mouseClick(Find<QPushButton>("Pul_Zoom"), Qt::LeftButton);
+  Click("Pul_Zoom");
   QVERIFY(!is_red());
   QCOMPARE(window_->findChildren<ScreenShotViewer*>().size(), 1);
 
@@ -343,15 +260,13 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
 }
 
 void PrincipaleTest::APictureThatIsNoneIsNotShown() {
-  Start();
-  QTest::keyClick(Find<SavegameList>("List1"), Qt::Key_End);
+  Press(Qt::Key_End);
   QVERIFY(Find<PictureBox>("Image1")->Picture().isNull());
-  QTest::mouseClick(Find<QPushButton>("Pul_Zoom"), Qt::LeftButton);
+  Click("Pul_Zoom");
   QVERIFY(program_->details.ViewerOpen);
 }
 
 void PrincipaleTest::ThePictureKeepsItsProportion() {
-  Start();
   for (const QSize size : {QSize(1024, 600), QSize(1280, 800), QSize(1920, 1080)}) {
     window_->resize(size);
     QTest::qWait(20);
@@ -362,7 +277,6 @@ void PrincipaleTest::ThePictureKeepsItsProportion() {
 }
 
 void PrincipaleTest::HelpOpensTheTextBesideTheProgram() {
-  Start();
   Find<QAction>("mnu_ShowHelp")->trigger();
   QCOMPARE(world_->boxes.shown.back().text,
            std::string("Warning, I cann't find help file in : T:\\Program\\help_savegame.txt"));
@@ -373,15 +287,16 @@ void PrincipaleTest::HelpOpensTheTextBesideTheProgram() {
 }
 
 void PrincipaleTest::ClosingShutsDownOnce() {
-  Start();
-  QTest::mouseClick(Find<QPushButton>("Pul_Zoom"), Qt::LeftButton);
+  Click("Pul_Zoom");
   QSignalSpy closed(window_.get(), &Principale::Closed);
   Find<QAction>("mnu_Exit")->trigger();
   QCOMPARE(closed.count(), 1);
   QVERIFY(!window_->isVisible());
   QCOMPARE(world_->disk.Read("Archive.vmk").substr(1026), std::string("\3\0\0\0", 4));
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);
-  window_->close();
+  QVERIFY2(ModalOpener() == nullptr, "no dialog opens over a window that is gone");
+  QCloseEvent again;
+  QApplication::sendEvent(window_.get(), &again);
   QCOMPARE(closed.count(), 1);
 }
 

@@ -1,19 +1,15 @@
 // Message boxes, file dialogs, the clipboard, the shell and sounds by Qt.
 #include <QApplication>
-#include <QClipboard>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
 
-#include "game/capture.h"
-#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_shell.h"
@@ -29,17 +25,14 @@ class QtServicesTest : public QObject {
   Q_INVOKABLE void Opened(const QUrl& document) { opened_ = document; }
 
  private slots:
-  void MessageBoxesAnswerKeys_data();
   void MessageBoxesAnswerKeys();
   void MessageBoxesShowTextAsItIs();
   void ALongTextScrolls();
-  void TheTimerRunsWhileABoxWaits();
   void FileDialogsStartWhereTheyAreTold();
   void FileDialogsExplainAPathThatCannotBeUsed();
   void FiltersAreWrittenAsQtWants();
   void TheShellRefusesWhatIsMissing();
   void SoundsNeedNeitherDeviceNorModule();
-  void APictureIsConvertedOnlyWhenItIsWanted();
 
  private:
   // Does something to the dialog that comes up next.
@@ -59,34 +52,24 @@ class QtServicesTest : public QObject {
   QUrl opened_;
 };
 
-void QtServicesTest::MessageBoxesAnswerKeys_data() {
-  QTest::addColumn<int>("buttons");
-  QTest::addColumn<int>("key");
-  QTest::addColumn<int>("answer");
-  const auto row = [](const char* name, BoxButtons buttons, Qt::Key key, BoxAnswer answer) {
-    QTest::newRow(name) << static_cast<int>(buttons) << static_cast<int>(key)
-                        << static_cast<int>(answer);
-  };
-  row("Enter is Yes", BoxButtons::kYesNo, Qt::Key_Return, BoxAnswer::kYes);
-  row("Escape is No", BoxButtons::kYesNo, Qt::Key_Escape, BoxAnswer::kNo);
-  row("Escape keeps", BoxButtons::kYesNoToKeep, Qt::Key_Escape, BoxAnswer::kYes);
-  row("Enter is OK", BoxButtons::kOkCancel, Qt::Key_Return, BoxAnswer::kOk);
-  row("Escape is Cancel", BoxButtons::kOkCancel, Qt::Key_Escape, BoxAnswer::kCancel);
-  row("Escape leaves a notice", BoxButtons::kOk, Qt::Key_Escape, BoxAnswer::kOk);
-}
-
 void QtServicesTest::MessageBoxesAnswerKeys() {
-  QFETCH(const int, buttons);
-  QFETCH(const int, key);
-  QFETCH(const int, answer);
-  WithNext<QMessageBox>([key](QMessageBox* box) {
-    QCOMPARE(box->windowTitle(), QStringLiteral("Vellumark"));
-    QTest::keyClick(box, static_cast<Qt::Key>(key));
-  });
-  QtMessageBoxes boxes(world_.text);
-  const BoxAnswer given =
-      boxes.Show("text", static_cast<BoxButtons>(buttons), BoxIcon::kExclamation);
-  QCOMPARE(static_cast<int>(given), answer);
+  const struct {
+    BoxButtons buttons;
+    Qt::Key key;
+    BoxAnswer answer;
+  } cases[] = {{BoxButtons::kYesNo, Qt::Key_Return, BoxAnswer::kYes},
+               {BoxButtons::kYesNo, Qt::Key_Escape, BoxAnswer::kNo},
+               {BoxButtons::kOkCancel, Qt::Key_Return, BoxAnswer::kOk},
+               {BoxButtons::kOkCancel, Qt::Key_Escape, BoxAnswer::kCancel},
+               {BoxButtons::kOk, Qt::Key_Escape, BoxAnswer::kOk}};
+  for (const auto& [buttons, key, answer] : cases) {
+    WithNext<QMessageBox>([key = key](QMessageBox* box) {
+      QCOMPARE(box->windowTitle(), QStringLiteral("Vellumark"));
+      QCOMPARE(box->icon(), QMessageBox::Warning);
+      QTest::keyClick(box, key);
+    });
+    QCOMPARE(QtMessageBoxes(world_.text).Show("text", buttons, BoxIcon::kExclamation), answer);
+  }
 }
 
 void QtServicesTest::MessageBoxesShowTextAsItIs() {
@@ -105,22 +88,12 @@ void QtServicesTest::ALongTextScrolls() {
   WithNext<QMessageBox>([](QMessageBox* box) {
     auto* whole = box->findChild<QTextEdit*>();
     QVERIFY(whole != nullptr && whole->isVisible());
+    QCOMPARE(box->icon(), QMessageBox::Critical);
     QVERIFY(whole->toPlainText().contains(QLatin1String("line 99")));
     QVERIFY(box->height() < 600);
     box->accept();
   });
-  QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kExclamation);
-}
-
-void QtServicesTest::TheTimerRunsWhileABoxWaits() {
-  int ticks = 0;
-  QTimer timer;
-  connect(&timer, &QTimer::timeout, this, [&ticks] {
-    if (++ticks == 3) QApplication::activeModalWidget()->close();
-  });
-  timer.start(20);
-  QtMessageBoxes(world_.text).Show("waiting", BoxButtons::kOk, BoxIcon::kCritical);
-  QCOMPARE(ticks, 3);
+  QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kCritical);
 }
 
 void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
@@ -201,55 +174,6 @@ void QtServicesTest::SoundsNeedNeitherDeviceNorModule() {
     player.Play(program.filePath(QLatin1String(sound)).toStdString());
     QTest::qWait(20);
   }
-}
-
-// A picture on the clipboard that counts how often it is asked for its pixels.
-class CountedPicture final : public QMimeData {
- public:
-  explicit CountedPicture(int* conversions) : conversions_(conversions) {}
-
-  QStringList formats() const override { return {QStringLiteral("application/x-qt-image")}; }
-
- protected:
-  QVariant retrieveData(const QString& /*format*/, QMetaType /*type*/) const override {
-    ++*conversions_;
-    return image_;
-  }
-
- private:
-  int* conversions_;
-  QImage image_{7680, 4320, QImage::Format_RGB32};
-};
-
-void QtServicesTest::APictureIsConvertedOnlyWhenItIsWanted() {
-  int conversions = 0;
-  QApplication::clipboard()->setMimeData(new CountedPicture(&conversions));
-  conversions = 0;
-  QtClipboard clipboard;
-  Program program{.files = world_.files,
-                  .text = world_.text,
-                  .boxes = world_.boxes,
-                  .file_dialogs = world_.dialogs,
-                  .sounds = world_.sounds,
-                  .shell = world_.shell,
-                  .desktop = world_.desktop,
-                  .clipboard = clipboard,
-                  .windows = world_.windows,
-                  .main_window = world_.windows};
-  program.archive.settings.GameFolder = "T:\\Game";
-  program.archive.settings.MaxSavegame = 15;
-  program.preferences.AutoCapture = true;
-  for (int tick = 0; tick < 10; ++tick) OnTimer(program);
-  program.preferences.AutoCapture = false;
-  program.capture.CaptureArmed = true;
-  for (int tick = 0; tick < 10; ++tick) OnTimer(program);
-  QCOMPARE(conversions, 0);
-
-  program.preferences.AutoCapture = true;
-  OnTimer(program);
-  QVERIFY(conversions > 0);
-  QVERIFY(program.capture.picture != nullptr);
-  QApplication::clipboard()->clear();
 }
 
 }  // namespace vellumark

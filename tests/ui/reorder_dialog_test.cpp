@@ -1,35 +1,20 @@
 // The reorder dialog over the real main window.
 #include "ui/reorder_dialog.h"
 
-#include <QAction>
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
-#include <QtTest>
-#include <functional>
-#include <memory>
 
-#include "foundation/messages.h"
-#include "platform/qt/qt_text.h"
-#include "program.h"
-#include "support/test_world.h"
-#include "ui/access_keys.h"
-#include "ui/principale.h"
-#include "ui/shown_program.h"
+#include "ui/window_fixture.h"
 
 namespace vellumark {
 
-class ReorderDialogTest : public QObject {
+class ReorderDialogTest : public WindowFixture {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
-
-  void EveryControlHasItsCaptionAndKey();
   void EveryOpeningStartsEmptyAndEscapeChangesNothing();
   void TheFieldsReorderTheArchiveOnEnter();
   void ARefusalLeavesTheDialogOpen();
@@ -38,118 +23,52 @@ class ReorderDialogTest : public QObject {
   void BothBrowseButtonsOpenTheChooserInTheirMode();
 
  private:
-  // Opens the dialog by its menu command, acts in it and closes it if it still is open.
-  void InDialog(const std::function<void(ReorderDialog&)>& act);
-
-  std::unique_ptr<testing::TestWorld> world_;
-  std::unique_ptr<Principale> window_;
-  std::unique_ptr<Program> program_;
+  void Prepare() override;
 };
 
-namespace {
-
-template <typename Widget>
-Widget* Find(const QWidget& dialog, const char* name) {
-  return dialog.findChild<Widget*>(QLatin1String(name));
+// The fields that a reorder needs.
+void TypeTarget(const QWidget* dialog, const char* max_slot) {
+  Type(dialog, "Text_PercorsoBase", "T:\\New");
+  Type(dialog, "Text_NomeCartelle", "Part");
+  Type(dialog, "Text_MaxSavegame", max_slot);
 }
 
-void Type(const QWidget& dialog, const char* field, const char* typed) {
-  QTest::keyClicks(Find<QLineEdit>(dialog, field), QLatin1String(typed));
-}
-
-void Click(const QWidget& dialog, const char* button) {
-  QTest::mouseClick(Find<QPushButton>(dialog, button), Qt::LeftButton);
-}
-
-}  // namespace
-
-void ReorderDialogTest::init() {
-  world_ = std::make_unique<testing::TestWorld>();
-  world_->WriteArchiveFile();
-  world_->WritePreferences();
+void ReorderDialogTest::Prepare() {
   world_->disk.MakeFolder("New");
   world_->AddSavegame("Archive/Slot1", 0, "Tower", 9);
   world_->AddSavegame("Archive/Slot1", 1, "Maze", 3);
-  ShowProgram(*world_, window_, program_);
-}
-
-void ReorderDialogTest::cleanup() {
-  window_.reset();
-  program_.reset();
-  world_.reset();
-}
-
-void ReorderDialogTest::InDialog(const std::function<void(ReorderDialog&)>& act) {
-  bool acted = false;
-  QTimer::singleShot(0, this, [&] {
-    auto* dialog = qobject_cast<ReorderDialog*>(QApplication::activeModalWidget());
-    QVERIFY(dialog != nullptr);
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
-    QTRY_VERIFY(Find<QLineEdit>(*dialog, "Text_PercorsoBase")->hasFocus());
-    act(*dialog);
-    acted = true;
-    if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
-  });
-  window_->findChild<QAction*>(QStringLiteral("mnu_Reorder"))->trigger();
-  QVERIFY(acted);
-}
-
-void ReorderDialogTest::EveryControlHasItsCaptionAndKey() {
-  InDialog([this](ReorderDialog& dialog) {
-    QStringList keys;
-    for (const Caption& caption : CaptionsOf(WindowId::kDialogRiordina)) {
-      const QString expected = ToQString(world_->text, LoadMessage(caption.message));
-      if (*caption.control == '\0') {
-        QCOMPARE(dialog.windowTitle(), expected);
-        continue;
-      }
-      const auto* control = Find<QWidget>(dialog, caption.control);
-      QVERIFY2(control != nullptr, caption.control);
-      const bool is_frame = qobject_cast<const QGroupBox*>(control) != nullptr;
-      const QString shown = control->property(is_frame ? "title" : "text").toString();
-      QCOMPARE(WithoutAccessKey(shown), expected);
-      if (is_frame) continue;
-      const qsizetype mark = shown.indexOf(u'&');
-      QVERIFY2(mark >= 0, caption.control);
-      keys.append(shown.mid(mark + 1, 1).toLower());
-    }
-    QCOMPARE(keys.removeDuplicates(), 0);
-    QVERIFY(dialog.width() <= 1024 && dialog.height() <= 600);
-    QTRY_VERIFY(Find<QLineEdit>(dialog, "Text_PercorsoBase")->hasFocus());
-    QVERIFY(!Find<QLineEdit>(dialog, "Text_MaxPerCartella")->toolTip().isEmpty());
-  });
 }
 
 void ReorderDialogTest::EveryOpeningStartsEmptyAndEscapeChangesNothing() {
   const auto before = world_->disk.AllFiles();
   const ArchiveSettings settings = program_->archive.settings;
   for (int opening = 0; opening < 2; ++opening) {
-    InDialog([](ReorderDialog& dialog) {
-      for (auto* field : dialog.findChildren<QLineEdit*>()) QCOMPARE(field->text(), QString());
-      for (auto* box : dialog.findChildren<QCheckBox*>()) {
+    InDialog("mnu_Reorder", [](QDialog* dialog) {
+      for (auto* field : dialog->findChildren<QLineEdit*>()) QCOMPARE(field->text(), QString());
+      for (auto* box : dialog->findChildren<QCheckBox*>()) {
         QVERIFY(!box->isChecked());
         QTest::mouseClick(box, Qt::LeftButton, {}, {8, box->height() / 2});
         QVERIFY(box->isChecked());
       }
-      Type(dialog, "Text_PercorsoBase", "T:\\New");
+      QVERIFY(!Find<QWidget>(dialog, "Text_MaxPerCartella")->toolTip().isEmpty());
+      TypeTarget(dialog, "10");
+      QTest::keyClick(dialog, Qt::Key_Escape);
     });
+    QVERIFY(!cancelled_);
   }
   QVERIFY(world_->disk.AllFiles() == before);
   QVERIFY(program_->archive.settings == settings);
 }
 
 void ReorderDialogTest::TheFieldsReorderTheArchiveOnEnter() {
-  InDialog([](ReorderDialog& dialog) {
-    Type(dialog, "Text_PercorsoBase", "T:\\New");
-    Type(dialog, "Text_NomeCartelle", "Part");
-    Type(dialog, "Text_MaxSavegame", "10");
+  InDialog("mnu_Reorder", [](QDialog* dialog) {
+    TypeTarget(dialog, "10");
     Type(dialog, "Text_MaxPerCartella", "1");
-    for (const auto key : {Qt::Key_I, Qt::Key_A}) QTest::keyClick(&dialog, key, Qt::AltModifier);
-    QTRY_VERIFY(Find<QCheckBox>(dialog, "Check_CreaInfo")->isChecked());
-    QTRY_VERIFY(Find<QCheckBox>(dialog, "Check_EliminaSorgente")->isChecked());
+    for (const auto key : {Qt::Key_I, Qt::Key_A}) QTest::keyClick(dialog, key, Qt::AltModifier);
+    QTRY_VERIFY(IsTicked(dialog, "Check_CreaInfo") && IsTicked(dialog, "Check_EliminaSorgente"));
     QTest::keyClick(Find<QLineEdit>(dialog, "Text_MaxPerCartella"), Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
   });
+  QVERIFY(!cancelled_);
   const std::vector<std::string> names = {"info.txt", "savegame.0"};
   QVERIFY(world_->disk.Names("New/Part1") == names && world_->disk.Names("New/Part2") == names);
   QVERIFY(!world_->disk.Exists("Archive/Slot1"));
@@ -158,25 +77,22 @@ void ReorderDialogTest::TheFieldsReorderTheArchiveOnEnter() {
 }
 
 void ReorderDialogTest::ARefusalLeavesTheDialogOpen() {
-  InDialog([this](ReorderDialog& dialog) {
-    Type(dialog, "Text_PercorsoBase", "T:\\New");
+  InDialog("mnu_Reorder", [this](const QDialog* dialog) {
+    TypeTarget(dialog, "10");
     Find<QLineEdit>(dialog, "Text_NomeCartelle")->setText(QString(QChar(0x0416)));
-    Type(dialog, "Text_MaxSavegame", "10");
     Click(dialog, "Pul_Riordina");
-    QVERIFY2(dialog.isVisible(), "the code page lacks the name's letter");
     QCOMPARE(world_->boxes.shown.size(), std::size_t{1});
-    QCOMPARE(Find<QLineEdit>(dialog, "Text_PercorsoBase")->text(), QStringLiteral("T:\\New"));
+    QCOMPARE(TextOf(dialog, "Text_PercorsoBase"), QStringLiteral("T:\\New"));
   });
+  QVERIFY2(cancelled_, "the code page lacks the name's letter");
   QVERIFY(world_->disk.Names("New").empty());
 }
 
 void ReorderDialogTest::NumbersThatCannotBeAreRefusedWhileTyping() {
-  InDialog([this](ReorderDialog& dialog) {
-    Type(dialog, "Text_PercorsoBase", "T:\\New");
-    Type(dialog, "Text_NomeCartelle", "Part");
-    Type(dialog, "Text_MaxSavegame", "1x");
+  InDialog("mnu_Reorder", [this](const QDialog* dialog) {
+    TypeTarget(dialog, "1x");
     QCOMPARE(world_->boxes.shown.size(), std::size_t{1});
-    QCOMPARE(Find<QLineEdit>(dialog, "Text_MaxSavegame")->text(), QStringLiteral("1x"));
+    QCOMPARE(TextOf(dialog, "Text_MaxSavegame"), QStringLiteral("1x"));
     Find<QLineEdit>(dialog, "Text_MaxSavegame")->clear();
     Click(dialog, "Pul_Riordina");
   });
@@ -187,12 +103,10 @@ void ReorderDialogTest::TheBarIsPaintedWhileNothingElseRuns() {
   QList<int> painted;
   bool other_event = false;
   bool was_working = true;
-  InDialog([&](ReorderDialog& dialog) {
-    Type(dialog, "Text_PercorsoBase", "T:\\New");
-    Type(dialog, "Text_NomeCartelle", "Part");
-    Type(dialog, "Text_MaxSavegame", "10");
+  InDialog("mnu_Reorder", [&](QDialog* dialog) {
+    TypeTarget(dialog, "10");
     auto* bar = Find<QProgressBar>(dialog, "ProgressBar1");
-    QTimer::singleShot(0, &dialog, [&other_event] { other_event = true; });
+    QTimer::singleShot(0, dialog, [&other_event] { other_event = true; });
     world_->files.meanwhile = [&](const std::string& operation) {
       if (operation != "Copy") return;
       painted.append(bar->value());
@@ -206,23 +120,20 @@ void ReorderDialogTest::TheBarIsPaintedWhileNothingElseRuns() {
 }
 
 void ReorderDialogTest::BothBrowseButtonsOpenTheChooserInTheirMode() {
-  const auto take = [this](const char* title) {
-    QTimer::singleShot(50, this, [title] {
-      auto* chooser = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      QVERIFY(chooser != nullptr);
-      QCOMPARE(chooser->windowTitle(), QLatin1String(title));
-      Find<QPushButton>(*chooser, "OKButton")->click();
-    });
-  };
   world_->disk.Write("Archive/Slot1/shot0.jpg", "picture");
-  InDialog([&](ReorderDialog& dialog) {
-    take("Select target folder for new archive");
-    Click(dialog, "Pul_PercorsoBase");
-    QCOMPARE(Find<QLineEdit>(dialog, "Text_PercorsoBase")->text(), QStringLiteral("T:\\Archive"));
-    take("Select target folder where save all screen-shots");
-    Click(dialog, "Pul_CopiaShot");
-    QVERIFY(dialog.isVisible());
+  InDialog("mnu_Reorder", [this](const QDialog* dialog) {
+    const auto take = [&](const char* button, const char* title) {
+      InDialog([&] { Click(dialog, button); },
+               [title](const QDialog* chooser) {
+                 QCOMPARE(chooser->windowTitle(), QLatin1String(title));
+                 Find<QPushButton>(chooser, "OKButton")->click();
+               });
+    };
+    take("Pul_PercorsoBase", "Select target folder for new archive");
+    QCOMPARE(TextOf(dialog, "Text_PercorsoBase"), QStringLiteral("T:\\Archive"));
+    take("Pul_CopiaShot", "Select target folder where save all screen-shots");
   });
+  QVERIFY2(cancelled_, "the reorder dialog has stayed open");
   QVERIFY(world_->disk.Exists("Program/Tower_9.jpg"));
 }
 

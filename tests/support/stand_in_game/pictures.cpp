@@ -1,6 +1,5 @@
 #include "pictures.h"
 
-#include <algorithm>
 #include <cstdint>
 
 namespace vellumark::stand_in {
@@ -16,19 +15,17 @@ void Append(std::string& bytes, std::uint32_t number, int size) {
 }
 
 // The colour of a pixel as 0xRRGGBB.
-std::uint32_t Colour(int x, int y, std::uint32_t shade) {
+std::uint32_t Colour(int x, int y) {
   const bool left = x < kWidth / 2;
   if (y < kHeight / 2) return left ? 0xE00000U : 0x00E000U;
-  return left ? 0x0000E0U : shade * 0x010101U;
+  return left ? 0x0000E0U : 0xFFFFFFU;
 }
 
 }  // namespace
 
-std::string PictureAsBmp(int number) {
+std::string PictureAsBmp() {
   constexpr std::uint32_t kPixelBytes = kWidth * kHeight * kBytesPerPixel;
   constexpr std::uint32_t kPixelsBegin = kBmpFileHeaderSize + kInfoHeaderSize;
-  constexpr int kStep = 40;
-  const auto shade = static_cast<std::uint32_t>(std::max(255 - kStep * number, 0));
 
   std::string bytes = "BM";
   Append(bytes, kPixelsBegin + kPixelBytes, 4);
@@ -46,7 +43,7 @@ std::string PictureAsBmp(int number) {
 
   // The lowest row comes first; a row of this width needs no padding.
   for (int y = kHeight - 1; y >= 0; --y) {
-    for (int x = 0; x < kWidth; ++x) Append(bytes, Colour(x, y, shade), kBytesPerPixel);
+    for (int x = 0; x < kWidth; ++x) Append(bytes, Colour(x, y), kBytesPerPixel);
   }
   return bytes;
 }

@@ -7,9 +7,9 @@
 namespace vellumark::stand_in {
 
 // A BMP file of 640 x 480 pixels, 24 bits each: red above on the left, green above on the right,
-// blue below on the left, so that neither turned sides nor swapped colours pass unnoticed. The
-// last quarter is white in picture 0 and darker with every later one.
-std::string PictureAsBmp(int number);
+// blue below on the left, the last quarter white, so that neither turned sides nor swapped colours
+// pass unnoticed.
+std::string PictureAsBmp();
 
 // The bytes before the picture's own header in a BMP file.
 inline constexpr int kBmpFileHeaderSize = 14;

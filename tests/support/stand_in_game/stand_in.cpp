@@ -55,16 +55,16 @@ bool StandIn::Obey(const std::string& command) {
   std::istringstream words(command);
   std::string verb;
   words >> verb;
-  if (verb == "look") {
-    LookAtSlots();
-  } else if (verb == "save") {
+  if (verb == "save") {
     int slot = 0;
     int counter = 0;
     std::string level;
     if (!(words >> slot >> counter >> std::ws && std::getline(words, level))) return false;
     return WriteSlot(slot, counter, level);
-  } else if (verb == "print-screen") {
-    window_.PutOnClipboard(PictureAsBmp(pictures_taken_++));
+  }
+
+  if (verb == "print-screen") {
+    window_.PutOnClipboard(PictureAsBmp());
   } else if (verb == "minimize") {
     window_.Minimize();
   } else if (verb == "quit") {
@@ -78,7 +78,5 @@ bool StandIn::Obey(const std::string& command) {
 void StandIn::KeyPressed(const std::string& name) { Write("key " + name); }
 
 void StandIn::FocusChanged(bool has_focus) { Write(has_focus ? "focus in" : "focus out"); }
-
-void StandIn::ClipboardTaken() { Write("clipboard taken"); }
 
 }  // namespace vellumark::stand_in

@@ -34,13 +34,11 @@ class Window {
 //   slot NAME COUNTER LEVEL    for each savegame there, in the order of their names
 //   focus in | focus out
 //   key NAME                   a key pressed while the window has the focus
-//   clipboard taken            another program emptied or filled it
 //   done COMMAND               a command that was obeyed
 // and obeys the lines that a test appends to the file `stand-in.commands`, which it empties at its
 // start:
-//   look                       writes the slot lines again
 //   save SLOT COUNTER LEVEL    writes a fresh savegame over the slot's file, as a saving game does
-//   print-screen               puts a picture on the clipboard, each time one of another colour
+//   print-screen               puts a picture on the clipboard
 //   minimize
 //   quit
 class StandIn {
@@ -50,7 +48,6 @@ class StandIn {
   void ObeyNewCommands();
   void KeyPressed(const std::string& name);
   void FocusChanged(bool has_focus);
-  void ClipboardTaken();
 
  private:
   void Write(const std::string& line);
@@ -60,7 +57,6 @@ class StandIn {
   Window& window_;
   std::ofstream log_;
   std::size_t commands_read_ = 0;  // bytes of the command file
-  int pictures_taken_ = 0;
 };
 
 }  // namespace vellumark::stand_in

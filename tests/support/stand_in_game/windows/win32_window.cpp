@@ -53,14 +53,6 @@ class Win32Window final : public Window {
   void Quit() override { PostQuitMessage(0); }
 
  private:
-  static std::string KeyName(WPARAM key) {
-    if (key == VK_RETURN) return "Return";
-    if ((key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z')) {
-      return {static_cast<char>(key >= 'A' ? key + 32 : key)};
-    }
-    return "code " + std::to_string(key);
-  }
-
   static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM what, LPARAM more) {
     auto* window = static_cast<Win32Window*>(GetPropA(handle, kClassName));
     if (window == nullptr || !window->stand_in_) {
@@ -72,14 +64,12 @@ class Win32Window final : public Window {
         window->stand_in_->ObeyNewCommands();
         return 0;
       case WM_KEYDOWN:
-        window->stand_in_->KeyPressed(KeyName(what));
+        window->stand_in_->KeyPressed(what == VK_RETURN ? "Return"
+                                                        : "code " + std::to_string(what));
         return 0;
       case WM_SETFOCUS:
       case WM_KILLFOCUS:
         window->stand_in_->FocusChanged(message == WM_SETFOCUS);
-        return 0;
-      case WM_DESTROYCLIPBOARD:
-        window->stand_in_->ClipboardTaken();
         return 0;
       case WM_CLOSE:
         window->Quit();
