@@ -58,10 +58,7 @@ void FaultyFileSystem::FailCall(int call, FileError error) {
   error_ = error;
 }
 
-void FaultyFileSystem::KillAtCall(int call, bool after) {
-  kill_at_ = calls_ + call;
-  kill_after_ = after;
-}
+void FaultyFileSystem::KillAtCall(int call) { kill_at_ = calls_ + call; }
 
 void FaultyFileSystem::FailAlways(const std::string& operation, const std::string& path_ending,
                                   FileError error) {
@@ -79,16 +76,12 @@ template <typename Result>
 Result FaultyFileSystem::Pass(const std::string& operation, const std::string& path,
                               const std::function<Result()>& run,
                               const std::function<Result(FileError)>& failure) {
-  ++calls_;
-  const bool dies = calls_ == kill_at_;
-  if (dies && !kill_after_) throw Killed();
+  if (++calls_ == kill_at_) throw Killed();
   if (meanwhile) meanwhile(operation);
   if (calls_ == fail_at_ || (operation == fail_operation_ && path.ends_with(fail_ending_))) {
     return failure(error_);
   }
-  Result result = run();
-  if (dies) throw Killed();
-  return result;
+  return run();
 }
 
 FileError FaultyFileSystem::Pass(const std::string& operation, const std::string& path,

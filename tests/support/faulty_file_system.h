@@ -18,8 +18,8 @@ class FaultyFileSystem final : public FileSystem {
 
   // Call number `call` from now on (1 is the next) fails with `error` without touching the disk.
   void FailCall(int call, FileError error);
-  // The program dies before call number `call` from now on, or, with `after`, right behind it.
-  void KillAtCall(int call, bool after);
+  // The program dies before call number `call` from now on, which is right behind the one before.
+  void KillAtCall(int call);
   // Every call with this operation's name on a path that ends so fails, from now on.
   void FailAlways(const std::string& operation, const std::string& path_ending, FileError error);
   // Forgets all of these and counts from 0 again.
@@ -66,7 +66,6 @@ class FaultyFileSystem final : public FileSystem {
   int calls_ = 0;
   int fail_at_ = 0;
   int kill_at_ = 0;
-  bool kill_after_ = false;
   FileError error_ = FileError::kNone;
   std::string fail_operation_;
   std::string fail_ending_;

@@ -30,6 +30,15 @@ std::string ScriptedMessageBoxes::AllTexts() const {
   return all;
 }
 
+std::string RecordedSounds::Take() {
+  std::string names;
+  for (const std::string& path : std::exchange(played, {})) {
+    const std::size_t name = path.find_last_of("/\\") + 1;
+    names += path.substr(name, path.rfind('.') - name) + '|';
+  }
+  return names;
+}
+
 std::optional<std::string> ScriptedFileDialogs::Open(const FileDialogRequest& request) {
   requests.push_back(request);
   return TakeAnswer(answers);

@@ -52,6 +52,10 @@ class RecordedSounds final : public SoundPlayer {
  public:
   void Play(const std::string& host_path) override { played.push_back(host_path); }
 
+  // The names of the files played since the last call, without their extension, with a bar behind
+  // each.
+  std::string Take();
+
   std::vector<std::string> played;
 };
 

@@ -45,6 +45,12 @@ void TemporaryFolder::MakeReadOnly(const std::string& file) const {
                   fs::perm_options::remove);
 }
 
+void TemporaryFolder::Remove(const std::vector<std::string>& names) const {
+  for (const std::string& name : names) {
+    if (fs::remove_all(path_ / FromUtf8(name)) == 0) throw std::runtime_error("no " + name);
+  }
+}
+
 std::vector<std::string> TemporaryFolder::Names(const std::string& folder) const {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(path_ / FromUtf8(folder))) {
@@ -54,12 +60,19 @@ std::vector<std::string> TemporaryFolder::Names(const std::string& folder) const
   return names;
 }
 
-std::map<std::string, std::string> TemporaryFolder::AllFiles() const {
-  std::map<std::string, std::string> files;
-  for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+std::string TemporaryFolder::Listed(const std::string& folder) const {
+  std::string list;
+  for (const std::string& name : Names(folder)) list += name + '|';
+  return list;
+}
+
+Files TemporaryFolder::AllFiles(const std::string& folder) const {
+  Files files;
+  const fs::path start = path_ / FromUtf8(folder);
+  for (const auto& entry : fs::recursive_directory_iterator(start)) {
     if (!entry.is_regular_file()) continue;
-    const std::string name = ToUtf8(entry.path().lexically_relative(path_));
-    files[name] = Read(name);
+    files[ToUtf8(entry.path().lexically_relative(start))] =
+        Read(ToUtf8(entry.path().lexically_relative(path_)));
   }
   return files;
 }

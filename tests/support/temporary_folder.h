@@ -10,6 +10,9 @@
 
 namespace vellumark::testing {
 
+// Contents by path, relative and with slashes.
+using Files = std::map<std::string, std::string>;
+
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -26,11 +29,15 @@ class TemporaryFolder {
   void MakeFolder(const std::string& folder) const;
   void MakeReadOnly(const std::string& file) const;
 
-  // The names in a folder, sorted.
-  std::vector<std::string> Names(const std::string& folder) const;
+  // Deletes files, and folders with everything in them.
+  void Remove(const std::vector<std::string>& names) const;
 
-  // Every file below the folder with its content.
-  std::map<std::string, std::string> AllFiles() const;
+  // The names in a folder, sorted; the second answer puts a bar behind each.
+  std::vector<std::string> Names(const std::string& folder) const;
+  std::string Listed(const std::string& folder) const;
+
+  // Every file below a folder of it with its content.
+  Files AllFiles(const std::string& folder = {}) const;
 
  private:
   std::filesystem::path path_;
