@@ -10,11 +10,13 @@
 #include "foundation/failures.h"
 #include "foundation/message_table.h"
 #include "foundation/own_messages.h"
+#include "support/expectations.h"
 #include "support/scripted_desktop.h"
 
 namespace vellumark {
 namespace {
 
+using testing::Contains;
 TEST(LoadMessageTest, FillsPlaceholdersInOrderInTheRunningText) {
   EXPECT_EQ(LoadMessage(262, {3}), "Removed 3 savegames");
   EXPECT_EQ(LoadMessage(264),
@@ -29,7 +31,7 @@ TEST(LoadMessageTest, FillsPlaceholdersInOrderInTheRunningText) {
 TEST(LoadMessageTest, AValueTakesInTheValuesOfLaterPlaceholdersButNotOfItsOwn) {
   const std::string text = LoadMessage(310, {"C:\\PROGRA~2", "<2>"});
   EXPECT_TRUE(text.starts_with("In folder C:\\PROGRA<2> there are")) << text;
-  EXPECT_NE(text.find("any savegames.~2Import"), std::string::npos) << text;
+  EXPECT_TRUE(Contains(text, "any savegames.~2Import"));
   EXPECT_EQ(LoadMessage(262, {"~1"}), "Removed ~1 savegames");
 }
 

@@ -120,8 +120,7 @@ TEST(CopySlotsTest, TakesCompanionsOfSavegamesOnly) {
   EXPECT_EQ(copies.count, 2);
   EXPECT_EQ(copies.HighestCopiedSlot, 5);
   EXPECT_TRUE(copies.failures.empty());
-  EXPECT_EQ(world.disk.Names("Archive"),
-            (std::vector<std::string>{"note0.txt", "savegame.0", "savegame.5"}));
+  EXPECT_EQ(world.disk.Listed("Archive"), "note0.txt|savegame.0|savegame.5|");
   EXPECT_EQ(world.disk.Read("Archive/savegame.5"), "content of savegame.5");
 }
 
@@ -136,7 +135,7 @@ TEST(CopySlotsTest, CountsAndNamesWhatFailedAndGoesOn) {
   ASSERT_EQ(copies.failures.size(), 1U);
   EXPECT_EQ(copies.failures[0].path, "T:\\Game\\savegame.0");
   EXPECT_EQ(copies.failures[0].why, FileError::kDiskFull);
-  EXPECT_EQ(world.disk.Names("Archive"), std::vector<std::string>{"savegame.4"});
+  EXPECT_EQ(world.disk.Listed("Archive"), "savegame.4|");
 }
 
 TEST(ClearSlotsTest, DeletesByPatternAndNamesWhatStays) {
@@ -150,8 +149,7 @@ TEST(ClearSlotsTest, DeletesByPatternAndNamesWhatStays) {
   const std::vector<Failure> failures = ClearSlots(world.files, "T:\\Game");
   ASSERT_EQ(failures.size(), 1U);
   EXPECT_EQ(failures[0].path, "T:\\Game\\note1.txt");
-  EXPECT_EQ(world.disk.Names("Game"),
-            (std::vector<std::string>{"info.txt", "note1.txt", "tomb4.exe"}));
+  EXPECT_EQ(world.disk.Listed("Game"), "info.txt|note1.txt|tomb4.exe|");
 }
 
 TEST(InfoSectionTest, ListsTheSlotsInTheirColumns) {
