@@ -16,6 +16,10 @@ TemporaryFolder::TemporaryFolder() : path_(FromUtf8(MakeTemporaryFolder())) {}
 
 TemporaryFolder::~TemporaryFolder() { RemoveTemporaryFolder(ToUtf8(path_)); }
 
+std::string TemporaryFolder::operator/(const std::string& name) const {
+  return ToUtf8(path_ / FromUtf8(name));
+}
+
 void TemporaryFolder::Write(const std::string& file, std::string_view bytes) const {
   fs::create_directories((path_ / FromUtf8(file)).parent_path());
   std::ofstream stream(path_ / FromUtf8(file), std::ios::binary | std::ios::trunc);
@@ -32,7 +36,7 @@ std::string TemporaryFolder::Read(const std::string& file) const {
 }
 
 bool TemporaryFolder::Exists(const std::string& file) const {
-  return fs::exists(path_ / FromUtf8(file));
+  return fs::exists(fs::symlink_status(path_ / FromUtf8(file)));
 }
 
 void TemporaryFolder::MakeFolder(const std::string& folder) const {

@@ -21,12 +21,15 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
+  // The host path of something in the folder, in UTF-8.
+  std::string operator/(const std::string& name) const;
 
   // Paths are relative to the folder, with slashes. Folders on the way are made.
   void Write(const std::string& file, std::string_view bytes) const;
   std::string Read(const std::string& file) const;
   bool Exists(const std::string& file) const;
   void MakeFolder(const std::string& folder) const;
+  // Not being allowed to write holds for the owner only: the tests may run as an administrator.
   void MakeReadOnly(const std::string& file) const;
 
   // Deletes files, and folders with everything in them.
