@@ -25,23 +25,24 @@ class ScanTest : public ::testing::Test, public OpenWorld {
   }
 };
 
-TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapWhateverTheirCase) {
+TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapAndFilesKeepTheirNumbers) {
   program.archive.settings.MainFolder = " T:\\Archive ";
   disk.Write("Archive/slot1/SAVEGAME.3", SavegameBytes("Tower", 12));
   disk.Write("Archive/slot1/NOTE3.TXT", "a note\r\n");
   disk.Write("Archive/slot1/SaveGame.12", SavegameBytes("Tower", 13));
-  AddSavegame("Archive/Slot2", 0, "Beta", 14);
-  AddSavegame("Archive/Slot2", 16, "Beyond the maximum", 15);
-  AddSavegame("Archive/Slot4", 0, "After the gap", 16);
+  disk.Write("Archive/Slot2", "a file");
+  AddSavegame("Archive/Slot3", 0, "Beta", 14);
+  AddSavegame("Archive/Slot3", 16, "Beyond the maximum", 15);
+  AddSavegame("Archive/Slot5", 0, "After the gap", 16);
   disk.Write("GAME/x", "");
   AddSavegame("Game", 5, "Gamma", 20);
   disk.Write("Game/shot5.jpg", "x");
   ScanArchive(program);
 
-  EXPECT_EQ(program.catalogue.FolderCount, 2);
+  EXPECT_EQ(program.catalogue.FolderCount, 3);
   ASSERT_EQ(Paths(), (std::vector<std::string>{
                          "t:\\archive\\slot1\\savegame.3", "t:\\archive\\slot1\\savegame.12",
-                         "t:\\archive\\slot2\\savegame.0", "t:\\game\\savegame.5"}));
+                         "t:\\archive\\slot3\\savegame.0", "t:\\game\\savegame.5"}));
   const SavegameEntry& first = program.catalogue.entries[0];
   EXPECT_EQ(first.LevelName, "Tower");
   EXPECT_EQ(first.InternalCounter, 12);
@@ -50,12 +51,13 @@ TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapWhateverTheirCase) {
   EXPECT_EQ(first.NoteText, "a note");
   EXPECT_EQ(first.NotePath, "t:\\archive\\slot1\\note3.txt");
   EXPECT_EQ(first.ShotPath, "t:\\archive\\slot1\\shot3.jpg");
+  EXPECT_EQ(program.catalogue.entries[2].FolderNumber, 3);
   EXPECT_EQ(program.catalogue.entries[3].FolderNumber, 0);
   EXPECT_EQ(program.catalogue.entries[3].NotePath, "T:\\Game\\note5.txt");
 
   ASSERT_EQ(windows.lines.size(), 4U);
   EXPECT_EQ(windows.lines[3].substr(0, 13), "TI   20 Gamma");
-  EXPECT_EQ(windows.fields[Field::kTotCartelle], "2");
+  EXPECT_EQ(windows.fields[Field::kTotCartelle], "3");
   EXPECT_EQ(windows.fields[Field::kTotSavegame], "4");
   EXPECT_EQ(windows.selected, std::vector<int>{0});
   EXPECT_EQ(program.archive.settings.MainFolder, "T:\\Archive") << "stored back trimmed";
@@ -80,16 +82,6 @@ TEST_F(ScanTest, TakesAllBareSubfoldersInTheOtherMode) {
   EXPECT_EQ(program.catalogue.entries[1].NotePath, "T:\\Archive\\Slot4\\note0.txt");
 }
 
-TEST_F(ScanTest, AFileKeepsItsNumberAmongTheSubfolders) {
-  AddSavegame("Archive/Slot1", 0, "A", 1);
-  disk.Write("Archive/Slot2", "a file");
-  AddSavegame("Archive/Slot3", 0, "C", 3);
-  ScanArchive(program);
-  EXPECT_EQ(program.catalogue.FolderCount, 3);
-  ASSERT_EQ(program.catalogue.EntryCount(), 2);
-  EXPECT_EQ(program.catalogue.entries[1].FolderNumber, 3);
-}
-
 TEST_F(ScanTest, ListsTheBackupFolderWhileTheGameHoldsArchivedSavegames) {
   AddSavegame("Game", 0, "Examined", 1);
   AddSavegame("Program/temp", 2, "Own", 2);
@@ -111,24 +103,19 @@ TEST_F(ScanTest, OfNothingIsAnEmptyList) {
   EXPECT_TRUE(program.archive.ArchiveChanged);
 }
 
-TEST_F(ScanTest, ShowsWhatCanBeReadOfAShortSavegame) {
+TEST_F(ScanTest, ListsAShortSavegameInSilenceAndNamesOneThatCannotBeRead) {
   disk.Write("Archive/Slot1/savegame.0", "Tow");
-  AddSavegame("Archive/Slot1", 1, "Whole", 7);
+  AddSavegame("Archive/Slot1", 1, "Locked", 7);
+  ScanArchive(program);
+  EXPECT_EQ(boxes.AllTexts(), "") << "it is the same at every scan";
+  files.FailAlways("Read", "savegame.1", FileError::kAccessDenied);
   ScanArchive(program);
   ASSERT_EQ(program.catalogue.EntryCount(), 2);
   EXPECT_EQ(program.catalogue.entries[0].LevelName, "Tow");
   EXPECT_EQ(program.catalogue.entries[0].InternalCounter, 0);
-  EXPECT_TRUE(boxes.shown.empty()) << "it is the same at every scan";
-}
-
-TEST_F(ScanTest, ListsAndNamesASavegameThatCannotBeRead) {
-  AddSavegame("Archive/Slot1", 0, "Locked", 7);
-  files.FailAlways("Read", "savegame.0", FileError::kAccessDenied);
-  ScanArchive(program);
-  ASSERT_EQ(program.catalogue.EntryCount(), 1);
-  EXPECT_EQ(program.catalogue.entries[0].LevelName, "");
+  EXPECT_EQ(program.catalogue.entries[1].LevelName, "");
   ASSERT_EQ(boxes.shown.size(), 1U);
-  EXPECT_TRUE(Contains(boxes.shown[0].text, "\"t:\\archive\\slot1\\savegame.0\": it is read-only"));
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "\"t:\\archive\\slot1\\savegame.1\": it is read-only"));
 }
 
 TEST_F(ScanTest, LeavesOutAndReportsNamesThatDifferByCaseOnly) {

@@ -126,14 +126,5 @@ TEST(DeleteFileForcedTest, DeletesReadOnlyFilesAndTakesMissingOnesAsGone) {
   EXPECT_TRUE(DeleteFileForced(world.files, "T:\\f"));
 }
 
-TEST(OpenWithShellTest, UsesTheDocumentsFolderUnlessGivenOne) {
-  TestWorld world;
-  EXPECT_TRUE(
-      OpenWithShell(world.files, world.text, world.shell, "T:\\game\\TOMB4.EXE", "", false, ""));
-  ASSERT_EQ(world.shell.opened.size(), 1U);
-  EXPECT_EQ(world.shell.opened[0].document, world.files.HostPath("T:\\Game\\tomb4.exe"));
-  EXPECT_EQ(world.shell.opened[0].working_folder, world.files.HostPath("T:\\Game"));
-}
-
 }  // namespace
 }  // namespace vellumark

@@ -58,6 +58,7 @@ class ImportTest : public ::testing::Test, public ImportWorld {};
 
 TEST_F(ImportTest, TakesEverySlotAndLeavesTheHighestAsTheFirst) {
   disk.Write("Archive/Slot2", "a file that keeps its number");
+  AddSavegame("Game", 16, "Beyond the maximum", 13);
   program.archive.settings.MainFolder = "T:\\Archive\\";
   program.capture.ShotLinkedNotImported = true;
   const Files before = disk.AllFiles();
@@ -69,7 +70,7 @@ TEST_F(ImportTest, TakesEverySlotAndLeavesTheHighestAsTheFirst) {
   }
   EXPECT_EQ(after.at("Archive/Slot3/shot5.jpg"), "picture five");
   EXPECT_EQ(disk.Names("Archive/Slot3").size(), 5U);
-  EXPECT_EQ(disk.Listed("Game"), "note3.txt|savegame.0|tomb4.exe|");
+  EXPECT_EQ(disk.Listed("Game"), "note3.txt|savegame.0|savegame.16|tomb4.exe|");
   EXPECT_EQ(after.at("Game/savegame.0"), before.at("Game/savegame.5"));
   EXPECT_TRUE(after.at("Archive/info.txt").starts_with("T:\\ARCHIVE\\SLOT3\r\n"));
 

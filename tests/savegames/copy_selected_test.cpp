@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/expectations.h"
 #include "support/open_world.h"
 #include "support/test_drives.h"
 
@@ -57,13 +58,22 @@ class CopySavegamesTest : public ::testing::Test, public OpenWorld {
   const SavegameFiles other_five = Files("archive\\slot2", 5);
 };
 
+// T:\Archive\Same leads to Slot1.
+class LinkedFolderTest : public CopySavegamesTest {
+ protected:
+  void SetUp() override {
+    if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
+    std::filesystem::create_symlink("Slot1", disk.path() / "Archive/Same");
+  }
+};
+
 TEST_F(CopySavegamesTest, NumbersThemInSelectionOrderOrKeepsTheirNumbers) {
   const auto before = disk.AllFiles();
   EXPECT_EQ(Copy({five, other_five, two}, "Target", true).targets.size(), 9U);
   ExpectWhole("Target", 0, "Archive/Slot1", 5);
   ExpectWhole("Target", 1, "Archive/Slot2", 5);
   ExpectWhole("Target", 2, "Archive/Slot1", 2);
-  for (const auto& [name, bytes] : before) EXPECT_EQ(disk.Read(name), bytes);
+  ExpectUntouched(before, disk);
 
   disk.Remove({"Archive/Slot1/note2.txt", "Archive/Slot1/shot2.jpg"});
   disk.Write("Kept/note2.txt", "an older note");
@@ -111,9 +121,8 @@ TEST_F(CopySavegamesTest, WhatCannotBeSetAsideIsNotReplaced) {
 }
 
 TEST_F(CopySavegamesTest, AMissingSavegameIsNamedAndTheNextTakesItsNumber) {
-  disk.Remove({"Archive/Slot1/savegame.2"});
+  disk.Remove({"Archive/Slot1/savegame.2", "Archive/Slot1/note5.txt"});
   disk.Write("Target/savegame.0", "zero");
-  disk.Remove({"Archive/Slot1/note5.txt"});
   const SelectedCopies copies = Copy({two, five}, "Target", true);
   ASSERT_EQ(copies.not_copied.size(), 1U);
   EXPECT_EQ(copies.not_copied[0].path, two.savegame);
@@ -140,9 +149,7 @@ TEST_F(CopySavegamesTest, AMoveFlushesOnceAndDeletesTheSources) {
   ExpectWhole("Target", 2, "Archive/Slot2", 5);
 }
 
-TEST_F(CopySavegamesTest, AMoveIntoASourceFolderReusesTheNumbersThatItFrees) {
-  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_symlink("Slot1", disk.path() / "Archive/Same");
+TEST_F(LinkedFolderTest, AMoveIntoASourceFolderReusesTheNumbersThatItFrees) {
   AddWhole("Archive/Slot1", 0);
   const SavegameFiles zero = Files("archive\\slot1", 0);
   Copy({zero, other_five, five}, "Archive\\Same", true, CopyMode::kMove);
@@ -155,9 +162,7 @@ TEST_F(CopySavegamesTest, AMoveIntoASourceFolderReusesTheNumbersThatItFrees) {
   EXPECT_EQ(disk.Listed("Archive/Slot2"), "");
 }
 
-TEST_F(CopySavegamesTest, AMoveOntoItselfChangesNothing) {
-  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_symlink("Slot1", disk.path() / "Archive/Same");
+TEST_F(LinkedFolderTest, AMoveOntoItselfChangesNothing) {
   const auto before = disk.AllFiles();
   for (const char* folder : {"Archive\\Slot1", "archive\\SLOT1", "Archive\\Same"}) {
     const SelectedCopies copies = Copy({two, five}, folder, false, CopyMode::kMove);
@@ -168,25 +173,20 @@ TEST_F(CopySavegamesTest, AMoveOntoItselfChangesNothing) {
 
 TEST_F(CopySavegamesTest, AMoveBehindALinkKeepsTheOnlyFile) {
   if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_hard_link(disk.path() / "Archive/Slot1/savegame.2",
-                                    disk.path() / "Target/savegame.2");
-  std::filesystem::create_directory(disk.path() / "Links");
-  std::filesystem::create_symlink(disk.path() / "Archive/Slot1/savegame.5",
-                                  disk.path() / "Links/savegame.5");
+  const std::string saved = disk / "Archive/Slot1/savegame.";
+  std::filesystem::create_hard_link(saved + '2', disk / "Target/savegame.2");
+  disk.MakeFolder("Links");
+  std::filesystem::create_symlink(saved + '5', disk / "Links/savegame.5");
   Copy({two, Files("links", 5)}, "Target", false, CopyMode::kMove);
   EXPECT_EQ(disk.Read("Target/savegame.2"), SavegameBytes("Archive/Slot1", 2, 2));
   ExpectWhole("Archive/Slot1", 5, "Archive/Slot1", 5);
 
-  std::filesystem::create_symlink(disk.path() / "Archive/Slot1/savegame.5",
-                                  disk.path() / "Links/savegame.7");
-  std::filesystem::rename(disk.path() / "Links/savegame.7", disk.path() / "Links/savegame.5");
+  std::filesystem::create_symlink(saved + '5', disk / "Links/savegame.5");
   Copy({five}, "Links", false, CopyMode::kMove);
   EXPECT_EQ(disk.Read("Links/savegame.5"), SavegameBytes("Archive/Slot1", 5, 5));
 }
 
-TEST_F(CopySavegamesTest, ASavegameThatIsListedTwiceIsMovedOnce) {
-  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_symlink("Slot1", disk.path() / "Archive/Same");
+TEST_F(LinkedFolderTest, ASavegameThatIsListedTwiceIsMovedOnce) {
   const SavegameFiles again = Files("archive\\same", 2);
   const SelectedCopies copies = Copy({two, again, two}, "Target", true, CopyMode::kMove);
   EXPECT_TRUE(copies.not_copied.empty() && copies.not_deleted.empty());
