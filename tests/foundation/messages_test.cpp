@@ -5,13 +5,10 @@
 #include <algorithm>
 #include <set>
 
-#include "foundation/caption_map.h"
-#include "foundation/captions.h"
 #include "foundation/failures.h"
 #include "foundation/message_table.h"
 #include "foundation/own_messages.h"
 #include "support/expectations.h"
-#include "support/scripted_desktop.h"
 
 namespace vellumark {
 namespace {
@@ -61,26 +58,6 @@ TEST(OwnMessagesTest, LongListsOfFailuresSayHowManyAreLeftOut) {
   const std::string text = DescribeFailures(failures);
   EXPECT_TRUE(text.starts_with("\r\n\"C:\\x\": the disk is full")) << text;
   EXPECT_TRUE(text.ends_with("... and 40 more")) << text;
-}
-
-TEST(LoadCaptionsTest, SetsAllNineWindowsInTheirOrder) {
-  testing::ScriptedWindows windows;
-  LoadCaptions(windows);
-
-  const std::vector<WindowId> order = {
-      WindowId::kDialogCattura,   WindowId::kDialogCerca,      WindowId::kDialogGetDir,
-      WindowId::kDialogNote,      WindowId::kDialogPref,       WindowId::kDialogRiordina,
-      WindowId::kDialogSetNewArc, WindowId::kDialogScreenShot, WindowId::kPrincipale};
-  ASSERT_EQ(windows.events.size(), order.size());
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    EXPECT_EQ(windows.events[i].second, order[i]);
-    std::set<std::string> controls;
-    for (const Caption& caption : CaptionsOf(order[i])) {
-      EXPECT_TRUE(controls.insert(caption.control).second) << caption.control;
-      EXPECT_FALSE(LoadMessage(caption.message).empty());
-    }
-    EXPECT_EQ(controls.count(""), 1U) << "every window has a title";
-  }
 }
 
 }  // namespace

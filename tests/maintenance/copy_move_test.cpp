@@ -75,7 +75,7 @@ TEST_F(CopyMoveTest, WithoutASelectionNothingOpens) {
 TEST_F(CopyMoveTest, SavegamesOfOneNumberAreRenumberedOrTheChooserStaysOpen) {
   for (const auto command : {CopySelection, MoveSelection}) {
     const auto before = disk.AllFiles();
-    RunCommand(command, {1, 2}, "T:\\Target", {BoxAnswer::kCancel});
+    RunCommand(command, {1, 0, 2}, "T:\\Target", {BoxAnswer::kCancel});
     EXPECT_FALSE(taken);
     EXPECT_FALSE(program.chooser.Confirmed);
     EXPECT_EQ(boxes.AllTexts(),
@@ -214,29 +214,6 @@ TEST_F(CopyMoveTest, ATargetThatRefusesOrVanishesCostsNothing) {
     files.Reset();
     boxes.while_waiting = [this] { std::filesystem::remove(disk.path() / "Target"); };
   }
-}
-
-TEST_F(CopyMoveTest, TheGamesSavegamesMoveIntoTheArchive) {
-  AddSavegame("Game", 1, "New", 9);
-  disk.Write("Game/shot1.jpg", "shot one");
-  Rescan();
-  RunCommand(MoveSelection, {3}, "T:\\Archive\\Slot2", {kNo, kYes});
-  EXPECT_EQ(disk.Listed("Game"), "tomb4.exe|");
-  EXPECT_EQ(disk.Read("Archive/Slot2/savegame.0"), SavegameBytes("New", 9, 1));
-  EXPECT_EQ(disk.Read("Archive/Slot2/shot0.jpg"), "shot one");
-  EXPECT_EQ(program.catalogue.EntryCount(), 4);
-}
-
-TEST(SelectionHasSameSlotTest, ComparesEverySlotNumberWithEveryOther) {
-  const auto has_same = [](const std::vector<std::int16_t>& slots) {
-    std::vector<SavegameFiles> savegames;
-    for (const std::int16_t slot : slots) savegames.push_back({.slot = slot});
-    return SelectionHasSameSlot(savegames);
-  };
-  EXPECT_FALSE(has_same({}));
-  EXPECT_FALSE(has_same({7}));
-  EXPECT_FALSE(has_same({0, 32767, 1, -1, -32768}));
-  EXPECT_TRUE(has_same({32767, 1, 0, 32767}));
 }
 
 // What identifies a savegame: its bytes with those of its note and screen-shot, wherever they are.

@@ -25,12 +25,10 @@ TEST_F(DiskWritingTest, CreateMakesAFileOnlyWhereTheNameIsFreeInAnyCase) {
   EXPECT_EQ(fs_.Create("T:\\arc\\New\xE4.vmk", "new"), FileError::kNone);
   EXPECT_EQ(disk_.Read("Arc/New\xC3\xA4.vmk"), "new");
 
-  ExpectRefused(FileError::kAlreadyExists, {
-                                               [&] { return fs_.Create("T:\\Arc\\tAKEN.vmk", ""); },
-                                               [&] { return fs_.Create("T:\\arc", ""); },
-                                               [&] { return fs_.CreateFolder("T:\\ARC"); },
-                                               [&] { return fs_.CreateFolder("T:\\"); },
-                                           });
+  ExpectRefused(FileError::kAlreadyExists, {[&] { return fs_.Create("T:\\Arc\\tAKEN.vmk", ""); },
+                                            [&] { return fs_.Create("T:\\arc", ""); },
+                                            [&] { return fs_.CreateFolder("T:\\ARC"); },
+                                            [&] { return fs_.CreateFolder("T:\\"); }});
   EXPECT_EQ(fs_.Create("T:\\none\\a", ""), FileError::kNotFound);
 }
 
@@ -42,13 +40,11 @@ TEST_F(DiskWritingTest, NamesThatWindowsCouldNotHoldAreNotMade) {
         std::string("T:\\b "), std::string("T:\\aux.vmk"), std::string("T:\\b\n"),
         std::string("T:\\b*"), std::string(), std::string(R"(\\pc\a)"), long_path}) {
     SCOPED_TRACE(path);
-    ExpectRefused(FileError::kBadName, {
-                                           [&] { return fs_.Create(path, ""); },
-                                           [&] { return fs_.Append(path, ""); },
-                                           [&] { return fs_.Copy("T:\\a", path); },
-                                           [&] { return fs_.Rename("T:\\a", path, kRefuse); },
-                                           [&] { return fs_.CreateFolder(path); },
-                                       });
+    ExpectRefused(FileError::kBadName,
+                  {[&] { return fs_.Create(path, ""); }, [&] { return fs_.Append(path, ""); },
+                   [&] { return fs_.Copy("T:\\a", path); },
+                   [&] { return fs_.Rename("T:\\a", path, kRefuse); },
+                   [&] { return fs_.CreateFolder(path); }});
   }
   EXPECT_EQ(fs_.Attributes("").error, FileError::kNotFound);
   EXPECT_EQ(fs_.Attributes("\\\\pc\\a").error, FileError::kNotFound);
@@ -62,13 +58,11 @@ TEST_F(DiskWritingTest, AReadOnlyFileIsNotChanged) {
   disk_.Write("Save", "old");
   disk_.Write("new", "new");
   disk_.MakeReadOnly("Save");
-  ExpectRefused(FileError::kAccessDenied,
-                {
-                    [&] { return fs_.Delete("T:\\save"); },
-                    [&] { return fs_.WriteAt("T:\\save", 0, "x"); },
-                    [&] { return fs_.Append("T:\\save", "x"); },
-                    [&] { return fs_.Rename("T:\\new", "T:\\save", kReplace); },
-                });
+  ExpectRefused(
+      FileError::kAccessDenied,
+      {[&] { return fs_.Delete("T:\\save"); }, [&] { return fs_.WriteAt("T:\\save", 0, "x"); },
+       [&] { return fs_.Append("T:\\save", "x"); },
+       [&] { return fs_.Rename("T:\\new", "T:\\save", kReplace); }});
   EXPECT_EQ(fs_.ClearAttributes("T:\\save"), FileError::kNone);
   EXPECT_FALSE(fs_.Attributes("T:\\Save").attributes.read_only);
   EXPECT_EQ(fs_.Delete("T:\\save"), FileError::kNone);
@@ -87,12 +81,10 @@ TEST_F(DiskWritingTest, WriteAtStaysInsideTheFile) {
   disk_.Write("a", "0123456789");
   EXPECT_EQ(fs_.WriteAt("T:\\A", 8, "xy"), FileError::kNone);
   EXPECT_EQ(disk_.Read("a"), "01234567xy");
-  ExpectRefused(FileError::kInputOutput,
-                {
-                    [&] { return fs_.WriteAt("T:\\a", 9, "zz"); },
-                    [&] { return fs_.WriteAt("T:\\a", 11, ""); },
-                    [&] { return fs_.WriteAt("T:\\a", ~std::uint64_t{0}, "zz"); },
-                });
+  ExpectRefused(
+      FileError::kInputOutput,
+      {[&] { return fs_.WriteAt("T:\\a", 9, "zz"); }, [&] { return fs_.WriteAt("T:\\a", 11, ""); },
+       [&] { return fs_.WriteAt("T:\\a", ~std::uint64_t{0}, "zz"); }});
   EXPECT_EQ(fs_.WriteAt("T:\\none", 0, ""), FileError::kNotFound);
 }
 
@@ -130,12 +122,10 @@ TEST_F(DiskWritingTest, RenameNeverTakesATakenName) {
   disk_.Write("Folder/a", "4");
   stdfs::create_directory(disk_ / "Empty");
   ExpectRefused(FileError::kAlreadyExists,
-                {
-                    [&] { return fs_.Rename("T:\\a", "T:\\tAKEN", kRefuse); },
-                    [&] { return fs_.Rename("T:\\a", "T:\\Taken", kRefuse); },
-                    [&] { return fs_.Rename("T:\\a", "T:\\Folder\\a", kRefuse); },
-                    [&] { return fs_.Rename("T:\\folder", "T:\\EMPTY", kRefuse); },
-                });
+                {[&] { return fs_.Rename("T:\\a", "T:\\tAKEN", kRefuse); },
+                 [&] { return fs_.Rename("T:\\a", "T:\\Taken", kRefuse); },
+                 [&] { return fs_.Rename("T:\\a", "T:\\Folder\\a", kRefuse); },
+                 [&] { return fs_.Rename("T:\\folder", "T:\\EMPTY", kRefuse); }});
   EXPECT_EQ(fs_.Rename("T:\\A", "T:\\folder\\New", kRefuse), FileError::kNone);
   EXPECT_EQ(disk_.Read("Folder/New"), "1");
   EXPECT_EQ(fs_.Rename("T:\\none", "T:\\x", kRefuse), FileError::kNotFound);
@@ -169,11 +159,9 @@ TEST_F(DiskWritingTest, OnlyAFileReplacesAFile) {
   stdfs::create_hard_link(disk_ / "same", disk_ / "twin");
   stdfs::create_directory(disk_ / "Empty");
   ExpectRefused(FileError::kAccessDenied,
-                {
-                    [&] { return fs_.Rename("T:\\file", "T:\\empty", kReplace); },
-                    [&] { return fs_.Rename("T:\\empty", "T:\\file", kReplace); },
-                    [&] { return fs_.Rename("T:\\same", "T:\\twin", kReplace); },
-                });
+                {[&] { return fs_.Rename("T:\\file", "T:\\empty", kReplace); },
+                 [&] { return fs_.Rename("T:\\empty", "T:\\file", kReplace); },
+                 [&] { return fs_.Rename("T:\\same", "T:\\twin", kReplace); }});
 }
 
 TEST_F(DiskWritingTest, FlushReachesFewFilesAndManyAndMissesNone) {
@@ -194,14 +182,10 @@ TEST_F(DiskWritingTest, FlushReachesFewFilesAndManyAndMissesNone) {
 
 TEST_F(DiskWritingTest, DeleteAndRemoveFolderKeepToTheirKind) {
   disk_.Write("Arc/a", "x");
-  ExpectRefused(FileError::kAccessDenied, {
-                                              [&] { return fs_.Delete("T:\\arc"); },
-                                              [&] { return fs_.RemoveFolder("T:"); },
-                                          });
-  ExpectRefused(FileError::kNotFound, {
-                                          [&] { return fs_.Delete("T:\\b"); },
-                                          [&] { return fs_.RemoveFolder("T:\\arc\\a"); },
-                                      });
+  ExpectRefused(FileError::kAccessDenied,
+                {[&] { return fs_.Delete("T:\\arc"); }, [&] { return fs_.RemoveFolder("T:"); }});
+  ExpectRefused(FileError::kNotFound, {[&] { return fs_.Delete("T:\\b"); },
+                                       [&] { return fs_.RemoveFolder("T:\\arc\\a"); }});
   EXPECT_EQ(fs_.RemoveFolder("T:\\arc"), FileError::kNotEmpty);
   EXPECT_EQ(fs_.Delete("T:\\ARC\\A"), FileError::kNone);
   EXPECT_EQ(fs_.RemoveFolder("T:\\ARC"), FileError::kNone);

@@ -55,15 +55,11 @@ TEST_F(PosixFileSystemTest, AnAmbiguousNameIsNotChanged) {
   for (const std::string path : {"T:\\save", "T:\\Save", "T:\\SAVE"}) {
     SCOPED_TRACE(path);
     ExpectRefused(FileError::kAmbiguous,
-                  {
-                      [&] { return fs_.Delete(path); },
-                      [&] { return fs_.WriteAt(path, 0, "x"); },
-                      [&] { return fs_.Append(path, "x"); },
-                      [&] { return fs_.ClearAttributes(path); },
-                      [&] { return fs_.Rename(path, "T:\\new", kRefuse); },
-                      [&] { return fs_.Rename("T:\\other", path, kRefuse); },
-                      [&] { return fs_.Rename("T:\\other", path, kReplace); },
-                  });
+                  {[&] { return fs_.Delete(path); }, [&] { return fs_.WriteAt(path, 0, "x"); },
+                   [&] { return fs_.Append(path, "x"); }, [&] { return fs_.ClearAttributes(path); },
+                   [&] { return fs_.Rename(path, "T:\\new", kRefuse); },
+                   [&] { return fs_.Rename("T:\\other", path, kRefuse); },
+                   [&] { return fs_.Rename("T:\\other", path, kReplace); }});
     EXPECT_EQ(fs_.Create(path, ""), FileError::kAlreadyExists);
   }
 }
@@ -71,13 +67,11 @@ TEST_F(PosixFileSystemTest, AnAmbiguousNameIsNotChanged) {
 TEST_F(PosixFileSystemTest, NothingIsChangedBehindAFolderThatCouldBeEither) {
   disk_.Write("Arc/a", "1");
   disk_.Write("arc/a", "2");
-  ExpectRefused(FileError::kAmbiguous, {
-                                           [&] { return fs_.Delete("T:\\ARC\\a"); },
-                                           [&] { return fs_.Create("T:\\ARC\\b", ""); },
-                                           [&] { return fs_.Append("T:\\ARC\\b", ""); },
-                                           [&] { return fs_.CreateFolder("T:\\ARC\\b"); },
-                                           [&] { return fs_.RemoveFolder("T:\\arc"); },
-                                       });
+  ExpectRefused(
+      FileError::kAmbiguous,
+      {[&] { return fs_.Delete("T:\\ARC\\a"); }, [&] { return fs_.Create("T:\\ARC\\b", ""); },
+       [&] { return fs_.Append("T:\\ARC\\b", ""); }, [&] { return fs_.CreateFolder("T:\\ARC\\b"); },
+       [&] { return fs_.RemoveFolder("T:\\arc"); }});
   // A folder as spelled is no question.
   EXPECT_EQ(fs_.Delete("T:\\arc\\A"), FileError::kNone);
   EXPECT_EQ(disk_.Read("Arc/a"), "1");
