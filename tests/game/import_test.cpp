@@ -14,29 +14,24 @@ using testing::Files;
 using testing::SavegameBytes;
 
 TEST(HasNewSavegamesTest, ComparesWithTheLastArchivedSavegameOrTheFirstOfTheGame) {
-  struct Case {
-    std::vector<std::pair<int, int>> folders_and_counters;
-    bool has_new;
-  };
-  const Case cases[] = {
-      {{{1, 120}, {0, 100}, {0, 121}}, true},
-      {{{1, 120}, {0, 100}, {0, 120}}, false},
-      {{{1, 1}, {1, 120}}, false},
-      {{{1, 7}, {0, -7}}, false},
-      {{}, false},
-      {{{0, 5}}, false},
-      {{{0, 5}, {0, 6}}, true},
-      {{{0, 5}, {0, 5}}, false},
-  };
-  for (const Case& each : cases) {
+  const auto has_new = [](const std::vector<std::pair<int, int>>& folders_and_counters) {
     Catalogue catalogue;
-    for (const auto& [folder, counter] : each.folders_and_counters) {
+    for (const auto& [folder, counter] : folders_and_counters) {
       SavegameEntry& entry = catalogue.entries.emplace_back();
       entry.FolderNumber = static_cast<std::int16_t>(folder);
       entry.InternalCounter = static_cast<std::int16_t>(counter);
     }
-    EXPECT_EQ(HasNewSavegames(catalogue), each.has_new) << "case " << &each - cases;
-  }
+    return HasNewSavegames(catalogue);
+  };
+  EXPECT_TRUE(has_new({{1, 120}, {0, 100}, {0, 121}}));
+  EXPECT_FALSE(has_new({{1, 120}, {0, 100}, {0, 120}}));
+  EXPECT_FALSE(has_new({{1, 1}, {1, 120}}));
+  EXPECT_FALSE(has_new({{1, 7}, {0, -7}}));
+
+  EXPECT_FALSE(has_new({}));
+  EXPECT_FALSE(has_new({{0, 5}}));
+  EXPECT_TRUE(has_new({{0, 5}, {0, 6}}));
+  EXPECT_FALSE(has_new({{0, 5}, {0, 5}}));
 }
 
 // An archive of one savegame and a game folder of three, two of them new.

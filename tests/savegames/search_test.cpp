@@ -97,18 +97,15 @@ TEST_F(SearchTest, ACharacterThatTheCodePageLacksFindsNothing) {
 
 // In some code pages the byte of a note's line break is a letter as well.
 TEST_F(SearchTest, ALineBreakOfANoteIsNoLetter) {
-  struct Case {
-    int code_page;
-    const char* letter;
-    const char* other_case;
-  };
   Add("a\x8Dz", "z");
   Add("az", "a\x8D\nz");
-  for (const Case& each : {Case{1250, "Ť", "ť"}, Case{1251, "Ќ", "ќ"}, Case{1256, "چ", "چ"}}) {
-    SCOPED_TRACE(each.code_page);
-    text = CodePageText(each.code_page, "", false);
-    EXPECT_EQ(Found(each.letter), Indices{0});
-    EXPECT_EQ(Found(each.other_case), Indices{0});
+  const std::tuple<int, const char*, const char*> letters[] = {
+      {1250, "Ť", "ť"}, {1251, "Ќ", "ќ"}, {1256, "چ", "چ"}};
+  for (const auto& [code_page, letter, other_case] : letters) {
+    SCOPED_TRACE(code_page);
+    text = CodePageText(code_page, "", false);
+    EXPECT_EQ(Found(letter), Indices{0});
+    EXPECT_EQ(Found(other_case), Indices{0});
     EXPECT_EQ(Found("\nZ"), Indices{1});
   }
 }
