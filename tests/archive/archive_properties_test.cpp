@@ -31,15 +31,6 @@ TEST_F(ArchivePropertiesTest, ShowsTheSettingsTrimmedAndStoresThemBack) {
   EXPECT_EQ(ArchivePropertiesTitle(program), " Properties of archive: C:\\a.vmk");
 }
 
-TEST_F(ArchivePropertiesTest, OkStoresTheFields) {
-  const ArchivePropertiesFields fields{"D:\\New", "  Part ", "D:\\Game", "D:\\Game\\x.exe", "10"};
-  EXPECT_TRUE(AcceptArchiveProperties(program, fields));
-  EXPECT_EQ(program.archive.settings,
-            (ArchiveSettings{"Part", "D:\\New", "D:\\Game", "D:\\Game\\x.exe", 10, 7}));
-  EXPECT_TRUE(program.archive.ArchiveChanged);
-  EXPECT_TRUE(program.archive.ArchivePropertiesOk);
-}
-
 TEST_F(ArchivePropertiesTest, TheFirstMissingFieldIsNamedAndNothingChanges) {
   const ArchiveSettings before = program.archive.settings;
   ArchivePropertiesFields fields{"", " ", "", "", " "};
@@ -63,14 +54,19 @@ TEST_F(ArchivePropertiesTest, TheFirstMissingFieldIsNamedAndNothingChanges) {
   EXPECT_FALSE(program.archive.ArchiveChanged);
 }
 
-TEST_F(ArchivePropertiesTest, TheMaximumIsTheNumberThatTheTextBeginsWith) {
-  ArchivePropertiesFields fields = PrepareArchiveProperties(program);
+TEST_F(ArchivePropertiesTest, OkStoresTheFieldsAndTheNumberThatTheMaximumBeginsWith) {
+  ArchivePropertiesFields fields{"D:\\New", "  Part ", "D:\\Game", "D:\\Game\\x.exe", ""};
   for (const auto& [typed, stored] : {std::pair("15 x", 15), std::pair("letters", 0),
                                       std::pair("3.5", 4), std::pair("32767", 32767)}) {
     fields.max_savegame = typed;
     EXPECT_TRUE(AcceptArchiveProperties(program, fields)) << typed;
-    EXPECT_EQ(program.archive.settings.MaxSavegame, stored);
+    const auto maximum = static_cast<std::int16_t>(stored);
+    EXPECT_EQ(program.archive.settings,
+              (ArchiveSettings{"Part", "D:\\New", "D:\\Game", "D:\\Game\\x.exe", maximum, 7}));
   }
+  EXPECT_TRUE(program.archive.ArchiveChanged);
+  EXPECT_TRUE(program.archive.ArchivePropertiesOk);
+
   fields.max_savegame = "32768";
   EXPECT_FALSE(AcceptArchiveProperties(program, fields));
   EXPECT_EQ(program.archive.settings.MaxSavegame, 32767);
