@@ -216,6 +216,14 @@ TEST_F(CopyMoveTest, ATargetThatRefusesOrVanishesCostsNothing) {
   }
 }
 
+TEST(SelectionHasSameSlotTest, TellsAllSlotNumbersApart) {
+  std::vector<SavegameFiles> savegames;
+  for (const std::int16_t slot : std::vector<std::int16_t>{0, 32767, 1, -1, -32768}) {
+    savegames.push_back({.slot = slot});
+  }
+  EXPECT_FALSE(SelectionHasSameSlot(savegames));
+}
+
 // What identifies a savegame: its bytes with those of its note and screen-shot, wherever they are.
 using Whole = std::array<std::string, 3>;
 
