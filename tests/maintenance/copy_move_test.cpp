@@ -29,6 +29,7 @@ class CopyMoveWorld : public testing::OpenWorld {
     disk.Write("Archive/Slot1/note3.txt", "note three\r\n");
     disk.Write("Archive/Slot1/shot3.jpg", "shot three");
     disk.Write("Archive/Slot2/note3.txt", "note other\r\n");
+    disk.Write("Old/note1.txt", "an old note\r\n");
     disk.MakeFolder("Target");
     Rescan();
     windows.in_dialog = [this](WindowId dialog) {
@@ -239,8 +240,8 @@ std::set<Whole> WholeSavegames(const TestWorld& world) {
     if (at == std::string::npos) continue;
     const std::string folder = name.substr(0, at + 1);
     const std::string number = name.substr(at + 10);
-    found.insert({bytes, content(folder + "note" + number + ".txt"),
-                  content(folder + "shot" + number + ".jpg")});
+    found.insert({bytes, content(std::string(folder).append("note").append(number).append(".txt")),
+                  content(std::string(folder).append("shot").append(number).append(".jpg"))});
   }
   return found;
 }
@@ -259,22 +260,17 @@ const Scenario kScenarios[] = {
     {"T:\\Archive\\Slot1", {0, 1, 2}, {BoxAnswer::kOk, kNo}},
 };
 
-class OldNoteWorld : public CopyMoveWorld {
- public:
-  OldNoteWorld() { disk.Write("Old/note1.txt", "an old note\r\n"); }
-};
-
 // Gives every call of each scenario's move its turn to fail or to be the last.
 template <typename Faults>
 void MoveInEveryScenario(const Faults& faults) {
   for (const Scenario& scenario : kScenarios) {
     SCOPED_TRACE(scenario.folder);
-    const auto before = WholeSavegames(OldNoteWorld());
+    const auto before = WholeSavegames(CopyMoveWorld());
     faults(
-        [&](OldNoteWorld& world) {
+        [&](CopyMoveWorld& world) {
           world.RunCommand(MoveSelection, scenario.lines, scenario.folder, scenario.answers);
         },
-        [&](OldNoteWorld& world) {
+        [&](CopyMoveWorld& world) {
           const auto after = WholeSavegames(world);
           for (const Whole& savegame : before) {
             EXPECT_TRUE(after.contains(savegame)) << savegame[0].substr(0, 5) << " is lost";
@@ -286,13 +282,13 @@ void MoveInEveryScenario(const Faults& faults) {
 
 TEST(MoveFailureTest, NoFailingCallLosesASavegame) {
   MoveInEveryScenario([](const auto& move, const auto& check) {
-    testing::FailEveryCall<OldNoteWorld>(FileError::kAccessDenied, move, check);
+    testing::FailEveryCall<CopyMoveWorld>(FileError::kAccessDenied, move, check);
   });
 }
 
 TEST(MoveFailureTest, DyingAtAnyCallLosesNoSavegame) {
   MoveInEveryScenario([](const auto& move, const auto& check) {
-    testing::DieAtEveryCall<OldNoteWorld>(move, check);
+    testing::DieAtEveryCall<CopyMoveWorld>(move, check);
   });
 }
 
