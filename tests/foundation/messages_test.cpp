@@ -5,10 +5,13 @@
 #include <algorithm>
 #include <set>
 
+#include "foundation/caption_map.h"
+#include "foundation/captions.h"
 #include "foundation/failures.h"
 #include "foundation/message_table.h"
 #include "foundation/own_messages.h"
 #include "support/expectations.h"
+#include "support/scripted_desktop.h"
 
 namespace vellumark {
 namespace {
@@ -58,6 +61,19 @@ TEST(OwnMessagesTest, LongListsOfFailuresSayHowManyAreLeftOut) {
   const std::string text = DescribeFailures(failures);
   EXPECT_TRUE(text.starts_with("\r\n\"C:\\x\": the disk is full")) << text;
   EXPECT_TRUE(text.ends_with("... and 40 more")) << text;
+}
+
+TEST(LoadCaptionsTest, EveryWindowHasATitleAndNoControlHasTwoCaptions) {
+  testing::ScriptedWindows windows;
+  LoadCaptions(windows);
+  for (const auto& [event, window] : windows.events) {
+    std::set<std::string> controls;
+    for (const Caption& caption : CaptionsOf(window)) {
+      EXPECT_TRUE(controls.insert(caption.control).second) << caption.control;
+      EXPECT_FALSE(LoadMessage(caption.message).empty());
+    }
+    EXPECT_TRUE(controls.contains(""));
+  }
 }
 
 }  // namespace
