@@ -3,30 +3,21 @@
 #include <gtest/gtest.h>
 
 #include "foundation/preferences_choice.h"
-#include "support/test_world.h"
+#include "support/expectations.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
-using testing::TestWorld;
+using testing::Contains;
+using testing::OpenWorld;
 
-class ArchivePropertiesTest : public ::testing::Test {
+class ArchivePropertiesTest : public ::testing::Test, public OpenWorld {
  protected:
   ArchivePropertiesTest() {
     program.archive.settings = {" Slot ", " C:\\Arc", "C:\\Game", "C:\\Game\\tomb4.exe", 15, 7};
     program.preferences.LastArchive = "C:\\a.vmk";
   }
-
-  // What is stored for a typed maximum; nothing when it is refused.
-  std::optional<int> Stored(const std::string& maximum) {
-    ArchivePropertiesFields fields = PrepareArchiveProperties(program);
-    fields.max_savegame = maximum;
-    if (!AcceptArchiveProperties(program, fields)) return std::nullopt;
-    return program.archive.settings.MaxSavegame;
-  }
-
-  TestWorld world;
-  Program program = world.NewProgram();
 };
 
 TEST_F(ArchivePropertiesTest, ShowsTheSettingsTrimmedAndStoresThemBack) {
@@ -40,22 +31,13 @@ TEST_F(ArchivePropertiesTest, ShowsTheSettingsTrimmedAndStoresThemBack) {
   EXPECT_EQ(ArchivePropertiesTitle(program), " Properties of archive: C:\\a.vmk");
 }
 
-TEST_F(ArchivePropertiesTest, OkStoresTheFields) {
-  const ArchivePropertiesFields fields{"D:\\New", "  Part ", "D:\\Game", "D:\\Game\\x.exe", "10"};
-  EXPECT_TRUE(AcceptArchiveProperties(program, fields));
-  EXPECT_EQ(program.archive.settings,
-            (ArchiveSettings{"Part", "D:\\New", "D:\\Game", "D:\\Game\\x.exe", 10, 7}));
-  EXPECT_TRUE(program.archive.ArchiveChanged);
-  EXPECT_TRUE(program.archive.ArchivePropertiesOk);
-}
-
 TEST_F(ArchivePropertiesTest, TheFirstMissingFieldIsNamedAndNothingChanges) {
   const ArchiveSettings before = program.archive.settings;
   ArchivePropertiesFields fields{"", " ", "", "", " "};
   const auto refusal = [&] {
     EXPECT_FALSE(AcceptArchiveProperties(program, fields));
-    EXPECT_EQ(world.boxes.shown.back().icon, BoxIcon::kCritical);
-    return world.boxes.shown.back().text;
+    EXPECT_EQ(boxes.shown.back().icon, BoxIcon::kCritical);
+    return boxes.shown.back().text;
   };
   EXPECT_EQ(refusal(), "You must set [Max Number Savegame]");
   fields.max_savegame = "15";
@@ -67,26 +49,33 @@ TEST_F(ArchivePropertiesTest, TheFirstMissingFieldIsNamedAndNothingChanges) {
   fields.game_folder = "C:";
   EXPECT_EQ(refusal(), "You must set [Tomb.exe full path]");
   fields.executable = "C:\\tomb4.exe";
-  EXPECT_NE(refusal().find("cannot be used"), std::string::npos) << "no folder can have that name";
+  EXPECT_TRUE(Contains(refusal(), "cannot be used")) << "no folder can have that name";
   fields.base_name = "a\tb";
-  EXPECT_NE(refusal().find("cannot be used"), std::string::npos) << "pasted";
+  EXPECT_TRUE(Contains(refusal(), "cannot be used")) << "pasted";
   EXPECT_EQ(program.archive.settings, before);
   EXPECT_FALSE(program.archive.ArchiveChanged);
 }
 
-TEST_F(ArchivePropertiesTest, TheMaximumIsTheNumberThatTheTextBeginsWith) {
-  EXPECT_EQ(Stored("10"), 10);
-  EXPECT_EQ(Stored("15 x"), 15);
-  EXPECT_EQ(Stored("letters"), 0);
-  EXPECT_EQ(Stored("2.5"), 2);
-  EXPECT_EQ(Stored("3.5"), 4);
-  EXPECT_EQ(Stored("32767"), 32767);
-  EXPECT_EQ(Stored("32768"), std::nullopt);
-  EXPECT_EQ(Stored("99999999999999999999999"), std::nullopt);
+TEST_F(ArchivePropertiesTest, OkStoresTheFieldsAndTheNumberThatTheMaximumBeginsWith) {
+  ArchivePropertiesFields fields{"D:\\New", "  Part ", "D:\\Game", "D:\\Game\\x.exe", ""};
+  for (const auto& [typed, stored] : {std::pair("15 x", 15), std::pair("letters", 0),
+                                      std::pair("3.5", 4), std::pair("32767", 32767)}) {
+    fields.max_savegame = typed;
+    EXPECT_TRUE(AcceptArchiveProperties(program, fields)) << typed;
+    const auto maximum = static_cast<std::int16_t>(stored);
+    EXPECT_EQ(program.archive.settings,
+              (ArchiveSettings{"Part", "D:\\New", "D:\\Game", "D:\\Game\\x.exe", maximum, 7}));
+  }
+  EXPECT_TRUE(program.archive.ArchiveChanged);
+  EXPECT_TRUE(program.archive.ArchivePropertiesOk);
+
+  fields.max_savegame = "32768";
+  EXPECT_FALSE(AcceptArchiveProperties(program, fields));
+  EXPECT_EQ(program.archive.settings.MaxSavegame, 32767);
 }
 
 TEST_F(ArchivePropertiesTest, FoldersComeFromTheChooserInItsModes) {
-  world.windows.in_dialog = [this](WindowId dialog) {
+  windows.in_dialog = [this](WindowId dialog) {
     EXPECT_EQ(dialog, WindowId::kDialogGetDir);
     EXPECT_EQ(program.chooser.field, "C:\\Arc");
     program.chooser.field = "D:\\Chosen";
@@ -98,14 +87,14 @@ TEST_F(ArchivePropertiesTest, FoldersComeFromTheChooserInItsModes) {
 }
 
 TEST_F(ArchivePropertiesTest, TheExecutableIsAskedForInTheGameFolder) {
-  world.dialogs.answers = {"C:\\Game\\tomb4.exe", std::nullopt, "C:\\" + std::string(254, 'x')};
+  dialogs.answers = {"C:\\Game\\tomb4.exe", std::nullopt, "C:\\" + std::string(254, 'x')};
   EXPECT_EQ(ChooseGameExecutable(program, "C:\\Game"), "C:\\Game\\tomb4.exe");
-  EXPECT_EQ(world.dialogs.requests[0].start_folder, "C:\\Game");
-  EXPECT_EQ(world.dialogs.requests[0].title, "Select tomb.exe application");
+  EXPECT_EQ(dialogs.requests[0].start_folder, "C:\\Game");
+  EXPECT_EQ(dialogs.requests[0].title, "Select tomb.exe application");
   EXPECT_EQ(ChooseGameExecutable(program, ""), std::nullopt);
-  EXPECT_TRUE(world.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
   EXPECT_EQ(ChooseGameExecutable(program, ""), std::nullopt) << "the archive file would cut it";
-  EXPECT_EQ(world.boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
 TEST_F(ArchivePropertiesTest, ThePreferencesFolderIsStoredAtOnceAndOnlyWhenConfirmed) {
@@ -115,7 +104,7 @@ TEST_F(ArchivePropertiesTest, ThePreferencesFolderIsStoredAtOnceAndOnlyWhenConfi
   ChooseShotFolder(program);
   EXPECT_EQ(program.preferences.ShotFolder, "C:\\Old") << "an older answer does not count";
 
-  world.windows.in_dialog = [this](WindowId) {
+  windows.in_dialog = [this](WindowId) {
     EXPECT_EQ(program.chooser.FolderChooserMode, ChooserMode::kPlain);
     program.chooser.ChosenFolder = "C:\\Shots";
     program.chooser.Confirmed = true;

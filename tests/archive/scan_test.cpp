@@ -4,26 +4,20 @@
 
 #include "savegames/notes.h"
 #include "savegames/savegame_header.h"
+#include "support/expectations.h"
 #include "support/host_paths.h"
-#include "support/test_world.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
+using testing::Contains;
+using testing::OpenWorld;
 using testing::SavegameBytes;
-using testing::TestWorld;
 using Field = MainWindow::Field;
 
-class ScanTest : public ::testing::Test {
+class ScanTest : public ::testing::Test, public OpenWorld {
  protected:
-  ScanTest() {
-    ArchiveSettings& settings = program.archive.settings;
-    settings.MainFolder = " T:\\Archive ";
-    settings.SubfolderBaseName = "Slot";
-    settings.GameFolder = "T:\\Game";
-    settings.MaxSavegame = 15;
-  }
-
   std::vector<std::string> Paths() const {
     std::vector<std::string> paths;
     for (const SavegameEntry& entry : program.catalogue.entries) {
@@ -31,26 +25,25 @@ class ScanTest : public ::testing::Test {
     }
     return paths;
   }
-
-  TestWorld world;
-  Program program = world.NewProgram();
 };
 
-TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapWhateverTheirCase) {
-  world.disk.Write("Archive/slot1/SAVEGAME.3", SavegameBytes("Tower", 12));
-  world.disk.Write("Archive/slot1/NOTE3.TXT", "a note\r\n");
-  world.disk.Write("Archive/slot1/SaveGame.12", SavegameBytes("Tower", 13));
-  world.AddSavegame("Archive/Slot2", 0, "Beta", 14);
-  world.AddSavegame("Archive/Slot2", 16, "Beyond the maximum", 15);
-  world.AddSavegame("Archive/Slot4", 0, "After the gap", 16);
-  world.AddSavegame("Game", 5, "Gamma", 20);
-  world.disk.Write("Game/shot5.jpg", "x");
+TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapAndFilesKeepTheirNumbers) {
+  program.archive.settings.MainFolder = " T:\\Archive ";
+  disk.Write("Archive/slot1/SAVEGAME.3", SavegameBytes("Tower", 12));
+  disk.Write("Archive/slot1/NOTE3.TXT", "a note\r\n");
+  disk.Write("Archive/slot1/SaveGame.12", SavegameBytes("Tower", 13));
+  disk.Write("Archive/Slot2", "a file");
+  AddSavegame("Archive/Slot3", 0, "Beta", 14);
+  AddSavegame("Archive/Slot3", 16, "Beyond the maximum", 15);
+  AddSavegame("Archive/Slot5", 0, "After the gap", 16);
+  AddSavegame("Game", 5, "Gamma", 20);
+  disk.Write("Game/shot5.jpg", "x");
   ScanArchive(program);
 
-  EXPECT_EQ(program.catalogue.FolderCount, 2);
+  EXPECT_EQ(program.catalogue.FolderCount, 3);
   ASSERT_EQ(Paths(), (std::vector<std::string>{
                          "t:\\archive\\slot1\\savegame.3", "t:\\archive\\slot1\\savegame.12",
-                         "t:\\archive\\slot2\\savegame.0", "t:\\game\\savegame.5"}));
+                         "t:\\archive\\slot3\\savegame.0", "t:\\game\\savegame.5"}));
   const SavegameEntry& first = program.catalogue.entries[0];
   EXPECT_EQ(first.LevelName, "Tower");
   EXPECT_EQ(first.InternalCounter, 12);
@@ -59,27 +52,29 @@ TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapWhateverTheirCase) {
   EXPECT_EQ(first.NoteText, "a note");
   EXPECT_EQ(first.NotePath, "t:\\archive\\slot1\\note3.txt");
   EXPECT_EQ(first.ShotPath, "t:\\archive\\slot1\\shot3.jpg");
+  EXPECT_EQ(program.catalogue.entries[2].FolderNumber, 3);
   EXPECT_EQ(program.catalogue.entries[3].FolderNumber, 0);
   EXPECT_EQ(program.catalogue.entries[3].NotePath, "T:\\Game\\note5.txt");
 
-  ASSERT_EQ(world.windows.lines.size(), 4U);
-  EXPECT_EQ(world.windows.lines[3].substr(0, 13), "TI   20 Gamma");
-  EXPECT_EQ(world.windows.fields[Field::kTotCartelle], "2");
-  EXPECT_EQ(world.windows.fields[Field::kTotSavegame], "4");
-  EXPECT_EQ(world.windows.selected, std::vector<int>{0});
+  ASSERT_EQ(windows.lines.size(), 4U);
+  EXPECT_EQ(windows.lines[3].substr(0, 13), "TI   20 Gamma");
+  EXPECT_EQ(windows.fields[Field::kTotCartelle], "3");
+  EXPECT_EQ(windows.fields[Field::kTotSavegame], "4");
+  EXPECT_EQ(windows.selected, std::vector<int>{0});
   EXPECT_EQ(program.archive.settings.MainFolder, "T:\\Archive") << "stored back trimmed";
   EXPECT_TRUE(program.archive.ArchiveChanged);
-  EXPECT_TRUE(world.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_EQ(sounds.Take(), "s6|s2|");
 }
 
 TEST_F(ScanTest, TakesAllBareSubfoldersInTheOtherMode) {
   program.preferences.ScanAllSubfolders = true;
-  world.AddSavegame("Archive/Slot4", 0, "A", 1);
-  world.AddSavegame("Archive/old ones", 1, "B", 2);
-  world.AddSavegame("Archive/.hidden", 2, "C", 3);
-  world.AddSavegame("Archive/Locked", 3, "D", 4);
-  world.AddSavegame("Archive/Slot4/deeper", 4, "E", 5);
-  testing::MakeBareNoMore(testing::ToUtf8(world.disk.path() / "Archive/Locked"));
+  AddSavegame("Archive/Slot4", 0, "A", 1);
+  AddSavegame("Archive/old ones", 1, "B", 2);
+  AddSavegame("Archive/.hidden", 2, "C", 3);
+  AddSavegame("Archive/Locked", 3, "D", 4);
+  AddSavegame("Archive/Slot4/deeper", 4, "E", 5);
+  testing::MakeBareNoMore(testing::ToUtf8(disk.path() / "Archive/Locked"));
   ScanArchive(program);
 
   EXPECT_EQ(program.catalogue.FolderCount, 2);
@@ -88,19 +83,9 @@ TEST_F(ScanTest, TakesAllBareSubfoldersInTheOtherMode) {
   EXPECT_EQ(program.catalogue.entries[1].NotePath, "T:\\Archive\\Slot4\\note0.txt");
 }
 
-TEST_F(ScanTest, AFileKeepsItsNumberAmongTheSubfolders) {
-  world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.disk.Write("Archive/Slot2", "a file");
-  world.AddSavegame("Archive/Slot3", 0, "C", 3);
-  ScanArchive(program);
-  EXPECT_EQ(program.catalogue.FolderCount, 3);
-  ASSERT_EQ(program.catalogue.EntryCount(), 2);
-  EXPECT_EQ(program.catalogue.entries[1].FolderNumber, 3);
-}
-
 TEST_F(ScanTest, ListsTheBackupFolderWhileTheGameHoldsArchivedSavegames) {
-  world.AddSavegame("Game", 0, "Examined", 1);
-  world.AddSavegame("Program/temp", 2, "Own", 2);
+  AddSavegame("Game", 0, "Examined", 1);
+  AddSavegame("Program/temp", 2, "Own", 2);
   program.play.ExaminedInGameFolder = true;
   program.play.BackupFolder = "T:\\Program\\temp";
   ScanArchive(program);
@@ -114,108 +99,93 @@ TEST_F(ScanTest, OfNothingIsAnEmptyList) {
   ScanArchive(program);
   EXPECT_EQ(program.catalogue.EntryCount(), 0);
   EXPECT_EQ(program.search.FoundCount(), 0);
-  EXPECT_EQ(world.windows.fields[Field::kTotSavegame], "0");
-  EXPECT_TRUE(world.windows.selected.empty());
+  EXPECT_EQ(windows.fields[Field::kTotSavegame], "0");
+  EXPECT_TRUE(windows.selected.empty());
   EXPECT_TRUE(program.archive.ArchiveChanged);
 }
 
-TEST_F(ScanTest, ShowsWhatCanBeReadOfAShortSavegame) {
-  world.disk.Write("Archive/Slot1/savegame.0", "Tow");
-  world.AddSavegame("Archive/Slot1", 1, "Whole", 7);
+TEST_F(ScanTest, ListsAShortSavegameInSilenceAndNamesOneThatCannotBeRead) {
+  disk.Write("Archive/Slot1/savegame.0", "Tow");
+  AddSavegame("Archive/Slot1", 1, "Locked", 7);
+  ScanArchive(program);
+  EXPECT_EQ(boxes.AllTexts(), "") << "it is the same at every scan";
+  files.FailAlways("Read", "savegame.1", FileError::kAccessDenied);
   ScanArchive(program);
   ASSERT_EQ(program.catalogue.EntryCount(), 2);
   EXPECT_EQ(program.catalogue.entries[0].LevelName, "Tow");
   EXPECT_EQ(program.catalogue.entries[0].InternalCounter, 0);
-  EXPECT_TRUE(world.boxes.shown.empty()) << "it is the same at every scan";
-}
-
-TEST_F(ScanTest, ListsAndNamesASavegameThatCannotBeRead) {
-  world.AddSavegame("Archive/Slot1", 0, "Locked", 7);
-  world.files.FailAlways("Read", "savegame.0", FileError::kAccessDenied);
-  ScanArchive(program);
-  ASSERT_EQ(program.catalogue.EntryCount(), 1);
-  EXPECT_EQ(program.catalogue.entries[0].LevelName, "");
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_NE(world.boxes.shown[0].text.find("\"t:\\archive\\slot1\\savegame.0\": it is read-only"),
-            std::string::npos)
-      << world.boxes.shown[0].text;
+  EXPECT_EQ(program.catalogue.entries[1].LevelName, "");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "\"t:\\archive\\slot1\\savegame.1\": it is read-only"));
 }
 
 TEST_F(ScanTest, PathsLeadToTheListedFilesAlsoBesideAFolderThatDiffersByCaseOnly) {
   if (!testing::DiskTellsCaseApart()) GTEST_SKIP() << "no folder can hold such names";
-  world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.disk.Write("Archive/Slot1/note0.txt", "A\r\n");
-  world.AddSavegame("archive/slot1", 0, "Another", 2);
-  world.AddSavegame("Game", 0, "G", 3);
-  world.disk.MakeFolder("GAME");
+  AddSavegame("Archive/Slot1", 0, "A", 1);
+  disk.Write("Archive/Slot1/note0.txt", "A\r\n");
+  AddSavegame("archive/slot1", 0, "Another", 2);
+  AddSavegame("Game", 0, "G", 3);
+  disk.MakeFolder("GAME");
   for (const bool all_subfolders : {false, true}) {
     program.preferences.ScanAllSubfolders = all_subfolders;
     ScanArchive(program);
     ASSERT_EQ(program.catalogue.EntryCount(), 2);
     for (const SavegameEntry& entry : program.catalogue.entries) {
-      EXPECT_EQ(ReadSavegameHeader(world.files, entry.SavegamePath).level_name, entry.LevelName);
+      EXPECT_EQ(ReadSavegameHeader(files, entry.SavegamePath).level_name, entry.LevelName);
     }
-    EXPECT_EQ(ReadNoteFile(world.files, program.catalogue.entries[0].NotePath), "A");
+    EXPECT_EQ(ReadNoteFile(files, program.catalogue.entries[0].NotePath), "A");
   }
 }
 
 TEST_F(ScanTest, LeavesOutAndReportsNamesThatDifferByCaseOnly) {
   if (!testing::DiskTellsCaseApart()) GTEST_SKIP() << "no folder can hold such names";
-  world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.AddSavegame("Archive/SLOT2", 0, "B", 2);
-  world.AddSavegame("Archive/slot2", 0, "C", 3);
-  world.AddSavegame("Archive/Slot3", 1, "D", 4);
-  world.disk.Write("Archive/Slot3/SAVEGAME.1", "E");
+  AddSavegame("Archive/Slot1", 0, "A", 1);
+  AddSavegame("Archive/SLOT2", 0, "B", 2);
+  AddSavegame("Archive/slot2", 0, "C", 3);
+  AddSavegame("Archive/Slot3", 1, "D", 4);
+  disk.Write("Archive/Slot3/SAVEGAME.1", "E");
   ScanArchive(program);
   EXPECT_EQ(Paths(), std::vector<std::string>{"t:\\archive\\slot1\\savegame.0"});
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_NE(world.boxes.shown[0].text.find("slot2"), std::string::npos);
-  EXPECT_NE(world.boxes.shown[0].text.find("savegame.1"), std::string::npos);
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "slot2"));
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "savegame.1"));
 }
 
 TEST_F(ScanTest, StopsWhenTheTableIsFullAndSaysSo) {
   program.archive.settings.MaxSavegame = 10100;
   for (int slot = 0; slot < 10050; ++slot) {
-    world.disk.Write("Archive/Slot1/savegame." + std::to_string(slot), "x");
+    disk.Write("Archive/Slot1/savegame." + std::to_string(slot), "x");
   }
-  world.AddSavegame("Game", 0, "Game", 1);
+  AddSavegame("Game", 0, "Game", 1);
   ScanArchive(program);
   EXPECT_EQ(program.catalogue.EntryCount(), 10001);
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_NE(world.boxes.shown[0].text.find("Only the first 10001"), std::string::npos);
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "Only the first 10001"));
 }
 
 TEST_F(ScanTest, SurvivesTheFailureOfAnyCall) {
-  world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.disk.Write("Archive/Slot1/note0.txt", "note\r\n");
-  world.AddSavegame("Game", 0, "B", 2);
+  AddSavegame("Archive/Slot1", 0, "A", 1);
+  disk.Write("Archive/Slot1/note0.txt", "note\r\n");
+  AddSavegame("Game", 0, "B", 2);
   for (int call = 1;; ++call) {
-    world.files.Reset();
-    world.boxes.shown.clear();
-    world.files.FailCall(call, FileError::kAccessDenied);
+    files.Reset();
+    boxes.shown.clear();
+    files.FailCall(call, FileError::kAccessDenied);
     ScanArchive(program);
-    if (world.files.calls() < call) break;
+    if (files.calls() < call) break;
     const bool all_read = program.catalogue.EntryCount() == 2 &&
                           program.catalogue.entries[0].LevelName == "A" &&
                           program.catalogue.entries[0].NoteText == "note" &&
                           program.catalogue.entries[1].LevelName == "B";
-    EXPECT_TRUE(all_read || !world.boxes.shown.empty()) << "a silent gap at call " << call;
+    EXPECT_TRUE(all_read || !boxes.shown.empty()) << "a silent gap at call " << call;
   }
 }
 
 TEST_F(ScanTest, RemovesTemporaryFilesOfARunThatWasCutOff) {
-  world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.disk.Write("Archive/Slot1/~vm~savegame.1", "half");
+  AddSavegame("Archive/Slot1", 0, "A", 1);
+  disk.Write("Archive/Slot1/~vm~savegame.1", "half");
   ScanArchive(program);
-  EXPECT_EQ(world.disk.Names("Archive/Slot1"), std::vector<std::string>{"savegame.0"});
-}
-
-TEST_F(ScanTest, PlaysASoundAtItsStartAndAtItsEnd) {
-  program.preferences.SoundEffects = true;
-  ScanArchive(program);
-  EXPECT_EQ(world.sounds.played,
-            (std::vector<std::string>{world.files.HostPath("T:\\Program\\s6.wav"),
-                                      world.files.HostPath("T:\\Program\\s2.wav")}));
+  EXPECT_EQ(disk.Listed("Archive/Slot1"), "savegame.0|");
 }
 
 }  // namespace

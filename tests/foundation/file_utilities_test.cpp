@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "foundation/paths.h"
+#include "support/every_call.h"
 #include "support/test_world.h"
 
 namespace vellumark {
 namespace {
 
-using testing::Killed;
 using testing::TestWorld;
 
 TEST(PathsTest, AreTakenApartAtBackslashesAndColons) {
@@ -35,10 +35,15 @@ TEST(FileExistsTest, CountsPlainFilesOnlyAndTakesWildcards) {
   EXPECT_FALSE(FolderExists(world.files, "T:\\Game\\savegame.3"));
 }
 
+struct OldAndNew : TestWorld {
+  OldAndNew() {
+    disk.Write("new", "new content");
+    disk.Write("old", "old");
+  }
+};
+
 TEST(CopyFileReplacingTest, ReplacesEvenAReadOnlyDestination) {
-  TestWorld world;
-  world.disk.Write("new", "new content");
-  world.disk.Write("old", "old");
+  OldAndNew world;
   world.disk.MakeReadOnly("old");
 
   EXPECT_TRUE(CopyFileReplacing(world.files, "T:\\new", "T:\\OLD"));
@@ -58,46 +63,36 @@ TEST(CopyFileReplacingTest, OntoItselfChangesNothing) {
 }
 
 TEST(CopyFileReplacingTest, AMissingSourceCostsTheDestination) {
-  TestWorld world;
-  world.disk.Write("old", "old");
+  OldAndNew world;
   EXPECT_FALSE(CopyFileReplacing(world.files, "T:\\none", "T:\\old"));
   EXPECT_FALSE(world.disk.Exists("old"));
 }
 
 TEST(CopyFileReplacingTest, ANewDestinationIsNeverHalfThere) {
   for (const FileError error : {FileError::kDiskFull, FileError::kAccessDenied}) {
-    for (int call = 1;; ++call) {
-      TestWorld world;
-      world.disk.Write("new", "new content");
-      world.disk.Write("old", "old");
-      world.files.FailCall(call, error);
-      FileError why = FileError::kNone;
-      const bool copied = CopyFileReplacing(world.files, "T:\\new", "T:\\old", &why);
-      if (world.files.calls() < call) break;
-
-      EXPECT_EQ(world.disk.Read("new"), "new content");
-      EXPECT_EQ(world.disk.Read("old"), copied ? "new content" : "old") << "call " << call;
-      EXPECT_EQ(copied, why == FileError::kNone);
-    }
+    FileError why = FileError::kNone;
+    bool copied = false;
+    testing::FailEveryCall<OldAndNew>(
+        error,
+        [&](OldAndNew& world) {
+          why = FileError::kNone;
+          copied = CopyFileReplacing(world.files, "T:\\new", "T:\\old", &why);
+        },
+        [&](OldAndNew& world) {
+          EXPECT_EQ(world.disk.Read("new"), "new content");
+          EXPECT_EQ(world.disk.Read("old"), copied ? "new content" : "old");
+          EXPECT_EQ(copied, why == FileError::kNone);
+        });
   }
 }
 
 TEST(CopyFileReplacingTest, DyingAtAnyCallLeavesTheOldOrTheNewDestination) {
-  for (const bool after : {false, true}) {
-    for (int call = 1;; ++call) {
-      TestWorld world;
-      world.disk.Write("new", "new content");
-      world.disk.Write("old", "old");
-      world.files.KillAtCall(call, after);
-      try {
-        CopyFileReplacing(world.files, "T:\\new", "T:\\old");
-        break;
-      } catch (const Killed&) {
+  testing::DieAtEveryCall<OldAndNew>(
+      [](OldAndNew& world) { CopyFileReplacing(world.files, "T:\\new", "T:\\old"); },
+      [](OldAndNew& world) {
         const std::string now = world.disk.Read("old");
-        EXPECT_TRUE(now == "old" || now == "new content") << "call " << call << ": " << now;
-      }
-    }
-  }
+        EXPECT_TRUE(now == "old" || now == "new content") << now;
+      });
 }
 
 TEST(ReplaceFileTest, KeepsAReadOnlyFileAndAnythingElseOnFailure) {
@@ -137,15 +132,6 @@ TEST(DeleteFileForcedTest, DeletesReadOnlyFilesAndTakesMissingOnesAsGone) {
   EXPECT_TRUE(DeleteFileForced(world.files, "T:\\f"));
   EXPECT_FALSE(world.disk.Exists("f"));
   EXPECT_TRUE(DeleteFileForced(world.files, "T:\\f"));
-}
-
-TEST(OpenWithShellTest, UsesTheDocumentsFolderUnlessGivenOne) {
-  TestWorld world;
-  EXPECT_TRUE(
-      OpenWithShell(world.files, world.text, world.shell, "T:\\game\\TOMB4.EXE", "", false, ""));
-  ASSERT_EQ(world.shell.opened.size(), 1U);
-  EXPECT_EQ(world.shell.opened[0].document, world.files.HostPath("T:\\Game\\tomb4.exe"));
-  EXPECT_EQ(world.shell.opened[0].working_folder, world.files.HostPath("T:\\Game"));
 }
 
 }  // namespace

@@ -2,60 +2,73 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <functional>
 
 #include "archive/archive_file.h"
 #include "foundation/preferences_file.h"
 #include "foundation/shut_down.h"
+#include "support/every_call.h"
+#include "support/expectations.h"
 #include "support/test_world.h"
 
 namespace vellumark {
 namespace {
 
+using testing::Contains;
+using testing::Files;
 using testing::TestWorld;
 
-class StartUpTest : public ::testing::Test {
+// Tells what the program has stored in it.
+class StoredWorld : public TestWorld {
+ public:
+  Preferences StoredPreferences(const std::string& file = "Program/manager.prf") const {
+    Preferences preferences;
+    DecodePreferences(disk.Read(file), preferences);
+    return preferences;
+  }
+};
+
+class StartUpTest : public ::testing::Test, public StoredWorld {
  protected:
   // A new run of the program with this command line, up to the end of start-up.
   Program Started(const std::string& arguments = "") {
-    Program program = world.NewProgram();
+    Program program = NewProgram();
     program.argument_text = arguments;
     StartUp(program);
     return program;
   }
+};
 
-  Preferences StoredPreferences(const std::string& file = "Program/manager.prf") const {
-    Preferences preferences;
-    DecodePreferences(world.disk.Read(file), preferences);
-    return preferences;
+// Its preferences name an archive of one savegame.
+class KnownArchiveTest : public StartUpTest {
+ protected:
+  KnownArchiveTest() {
+    WriteArchiveFile();
+    WritePreferences();
+    AddSavegame("Archive/Slot1", 0, "A", 10);
   }
-
-  TestWorld world;
 };
 
 TEST_F(StartUpTest, AFirstRunTakesTheDefaultsAndLeavesAPreferencesFile) {
-  world.WriteArchiveFile();
+  WriteArchiveFile();
   Program program = Started("T:\\Archive.vmk");
   EXPECT_EQ(program.preferences.LastArchive, "") << "without preferences it is not used";
   EXPECT_EQ(program.preferences.ShotFolder, "T:\\Program");
   EXPECT_TRUE(program.preferences.AutoCapture);
   EXPECT_FALSE(program.preferences.SoundEffects);
   EXPECT_EQ(program.archive.settings.MaxSavegame, 15);
-  EXPECT_TRUE(world.disk.Exists("Program/temp"));
+  EXPECT_TRUE(disk.Exists("Program/temp"));
   EXPECT_FALSE(program.archive.ArchiveChanged);
-  EXPECT_TRUE(world.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
 
   ShutDown(program);
-  EXPECT_EQ(world.disk.Read("Program/manager.prf").size(), 524U);
-  EXPECT_TRUE(world.dialogs.requests.empty());
+  EXPECT_EQ(disk.Read("Program/manager.prf").size(), 524U);
+  EXPECT_TRUE(dialogs.requests.empty());
   EXPECT_EQ(Started().archive.settings.MaxSavegame, 0) << "the empty record from now on";
 }
 
-TEST_F(StartUpTest, TheCommandLinesArchiveReplacesTheLastOne) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  world.AddSavegame("Archive/Slot1", 0, "A", 1);
-  world.disk.Write("Other/Tower.vmk", world.disk.Read("Archive.vmk"));
+TEST_F(KnownArchiveTest, TheCommandLinesArchiveReplacesTheLastOne) {
+  disk.Write("Other/Tower.vmk", disk.Read("Archive.vmk"));
 
   Program program = Started("  T:\\Other\\Tower.VMK ");
   EXPECT_EQ(program.preferences.LastArchive, "T:\\Other\\Tower.VMK");
@@ -63,232 +76,204 @@ TEST_F(StartUpTest, TheCommandLinesArchiveReplacesTheLastOne) {
   ShutDown(program);
   EXPECT_EQ(StoredPreferences().LastArchive, "T:\\Other\\Tower.VMK");
 
-  world.WritePreferences();
+  WritePreferences();
   EXPECT_EQ(Started("\"T:\\Other\\Tower.vmk\"").preferences.LastArchive, "T:\\Archive.vmk");
-  EXPECT_EQ(Started(world.files.HostPath("T:\\Other\\Tower.vmk")).preferences.LastArchive,
+  EXPECT_EQ(Started(files.HostPath("T:\\Other\\Tower.vmk")).preferences.LastArchive,
             "T:\\Other\\Tower.vmk")
       << "a path of the host";
   EXPECT_EQ(Started("T:\\gone.vmk").preferences.LastArchive, "");
 }
 
-TEST_F(StartUpTest, TheCommandLinesPreferencesFileIsReadAndWrittenBack) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  world.disk.Write("My.PRF", world.disk.Read("Program/manager.prf") + "beyond");
-  std::filesystem::remove(world.disk.path() / "Program/manager.prf");
+TEST_F(KnownArchiveTest, TheCommandLinesPreferencesFileIsReadAndWrittenBack) {
+  disk.Write("My.PRF", disk.Read("Program/manager.prf") + "beyond");
+  disk.Remove({"Program/manager.prf"});
 
   Program program = Started("T:\\my.prf");
   EXPECT_EQ(program.preferences.LastArchive, "T:\\Archive.vmk");
   program.preferences.SoundEffects = true;
   ShutDown(program);
   EXPECT_TRUE(StoredPreferences("My.PRF").SoundEffects);
-  EXPECT_TRUE(world.disk.Read("My.PRF").ends_with("beyond"));
-  EXPECT_FALSE(world.disk.Exists("Program/manager.prf"));
+  EXPECT_TRUE(disk.Read("My.PRF").ends_with("beyond"));
+  EXPECT_FALSE(disk.Exists("Program/manager.prf"));
   EXPECT_EQ(Started("T:\\none.prf").paths.PreferencesPath, "T:\\Program\\manager.prf");
 }
 
 TEST_F(StartUpTest, AMissingDefaultPictureIsToldEveryTime) {
-  std::filesystem::remove(world.disk.path() / "Program/default_shot.jpg");
+  disk.Remove({"Program/default_shot.jpg"});
   Program program = Started();
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_EQ(world.boxes.shown[0].text,
+  EXPECT_EQ(boxes.AllTexts(),
             "Warning: missing default screenshot image \"default_shot.jpg\" in application folder: "
-            "T:\\Program");
-  EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::kCritical);
+            "T:\\Program\n");
+  EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kCritical);
   EXPECT_EQ(program.paths.DefaultShotPath, "");
 }
 
-TEST_F(StartUpTest, AskIsFollowedByAnImportOnYesOnly) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  world.AddSavegame("Archive/Slot1", 0, "A", 10);
-  world.AddSavegame("Game", 3, "B", 11);
-  world.boxes.answers = {BoxAnswer::kNo};
+TEST_F(KnownArchiveTest, AskIsFollowedByAnImportOnYesOnly) {
+  AddSavegame("Game", 3, "B", 11);
+  boxes.answers = {BoxAnswer::kNo};
   Started();
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_EQ(world.boxes.shown[0].text,
+  EXPECT_EQ(boxes.AllTexts(),
             "There are new savegame to archive in Tomb Raider folder\r\nDo you want move savegames "
             "from Tomb Raider folder to current archive?\r\n(Note: will be moved all savegames  "
-            "except last (most recent) that will be renamed as 'first slot' savegame)");
-  EXPECT_EQ(world.boxes.shown[0].buttons, BoxButtons::kYesNo);
-  EXPECT_FALSE(world.disk.Exists("Archive/Slot2"));
+            "except last (most recent) that will be renamed as 'first slot' savegame)\n");
+  EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::kYesNo);
+  EXPECT_FALSE(disk.Exists("Archive/Slot2"));
 
   Started();
-  EXPECT_EQ(world.disk.Names("Archive/Slot2"), std::vector<std::string>{"savegame.3"});
+  EXPECT_EQ(disk.Listed("Archive/Slot2"), "savegame.3|");
   Started();
-  EXPECT_EQ(world.boxes.shown.size(), 3U) << "question, question, report; then nothing is new";
+  EXPECT_EQ(boxes.shown.size(), 3U) << "question, question, report; then nothing is new";
 }
 
-TEST_F(StartUpTest, AnEmptyArchiveImportsWithoutAQuestion) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  world.AddSavegame("Game", 0, "A", 1);
+TEST_F(KnownArchiveTest, AnEmptyArchiveImportsWithoutAQuestion) {
+  disk.Remove({"Archive/Slot1"});
+  AddSavegame("Game", 0, "A", 1);
   Started();
-  EXPECT_TRUE(world.boxes.shown.back().text.starts_with("There are no new savegame"));
-  world.AddSavegame("Game", 1, "B", 2);
+  EXPECT_TRUE(boxes.shown.back().text.starts_with("There are no new savegame"));
+  AddSavegame("Game", 1, "B", 2);
   Started();
-  EXPECT_EQ(world.boxes.shown.back().text, "Imported  2 savegames.");
+  EXPECT_EQ(boxes.shown.back().text, "Imported  2 savegames.");
 }
 
 TEST_F(StartUpTest, SlotsLeftInTheBackupFolderAreSetAside) {
-  world.disk.Write("Program/temp/savegame.3", "own savegame");
-  world.disk.Write("Program/temp/note3.txt", "own note");
-  world.disk.Write("Program/temp/other.txt", "no slot file");
-  world.disk.Write("Program/rescued/1/savegame.0", "older");
+  disk.Write("Program/temp/savegame.3", "own savegame");
+  disk.Write("Program/temp/note3.txt", "own note");
+  disk.Write("Program/temp/other.txt", "no slot file");
+  disk.Write("Program/rescued/1/savegame.0", "older");
   Started();
-  EXPECT_EQ(world.disk.Names("Program/temp"), std::vector<std::string>{"other.txt"});
-  EXPECT_EQ(world.disk.Read("Program/rescued/2/savegame.3"), "own savegame");
-  EXPECT_EQ(world.disk.Read("Program/rescued/2/note3.txt"), "own note");
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_NE(world.boxes.shown[0].text.find("\"T:\\Program\\rescued\\2\""), std::string::npos);
+  EXPECT_EQ(disk.Listed("Program/temp"), "other.txt|");
+  EXPECT_EQ(disk.Read("Program/rescued/2/savegame.3"), "own savegame");
+  EXPECT_EQ(disk.Read("Program/rescued/2/note3.txt"), "own note");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "\"T:\\Program\\rescued\\2\""));
 }
 
 TEST_F(StartUpTest, OfBackedUpSlotsThatCannotBeMovedNothingIsSaidToHaveBeen) {
-  world.disk.Write("Program/temp/savegame.3", "own savegame");
-  world.files.meanwhile = [this](const std::string& operation) {
-    world.files.FailAlways(operation == "Delete" ? "Delete" : "Rename", "temp\\savegame.3",
-                           FileError::kInUse);
+  disk.Write("Program/temp/savegame.3", "own savegame");
+  files.meanwhile = [this](const std::string& operation) {
+    files.FailAlways(operation == "Delete" ? "Delete" : "Rename", "temp\\savegame.3",
+                     FileError::kInUse);
   };
   Started();
-  EXPECT_TRUE(world.disk.Exists("Program/temp/savegame.3"));
-  EXPECT_FALSE(world.disk.Exists("Program/rescued/1/savegame.3"));
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_TRUE(world.boxes.shown[0].text.starts_with("Warning: savegames left by a previous run"));
-}
-
-TEST_F(StartUpTest, BackedUpSlotsThatCannotBeMovedStay) {
-  for (int call = 1;; ++call) {
-    TestWorld other;
-    other.disk.Write("Program/temp/savegame.3", "own savegame");
-    other.disk.Write("Program/temp/shot3.jpg", "own picture");
-    Program program = other.NewProgram();
-    other.files.FailCall(call, FileError::kAccessDenied);
-    StartUp(program);
-    if (other.files.calls() < call) break;
-    std::string all;
-    for (const auto& [name, bytes] : other.disk.AllFiles()) all += bytes;
-    EXPECT_NE(all.find("own savegame"), std::string::npos) << "call " << call;
-    EXPECT_NE(all.find("own picture"), std::string::npos) << "call " << call;
-  }
-}
-
-TEST_F(StartUpTest, AShortPreferencesFileIsToldAndKeptBeforeItIsWritten) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  const std::string damaged = world.disk.Read("Program/manager.prf").substr(0, 300);
-  world.disk.Write("Program/manager.prf", damaged);
-  Program program = Started();
-  EXPECT_EQ(program.preferences.LastArchive, "T:\\Archive.vmk");
-  EXPECT_EQ(program.preferences.ShotFolder, "T:\\Program") << "the default";
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  ShutDown(program);
-  EXPECT_EQ(world.disk.Read("Program/manager.prf.bak"), damaged);
-  EXPECT_EQ(world.disk.Read("Program/manager.prf").size(), 524U);
+  EXPECT_TRUE(disk.Exists("Program/temp/savegame.3"));
+  EXPECT_FALSE(disk.Exists("Program/rescued/1/savegame.3"));
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(boxes.shown[0].text.starts_with("Warning: savegames left by a previous run"));
 }
 
 TEST_F(StartUpTest, AForeignPreferencesFileIsKeptBeforeItIsWritten) {
   const std::string foreign = "[General]\r\n" + std::string(3000, 'x');
-  world.disk.Write("My.prf", foreign);
+  disk.Write("My.prf", foreign);
   Program program = Started("T:\\My.prf");
   EXPECT_EQ(program.preferences.ShotFolder, "T:\\Program") << "the default";
-  EXPECT_EQ(world.boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown.size(), 1U);
   ShutDown(program);
-  EXPECT_EQ(world.disk.Read("My.prf.bak"), foreign);
+  EXPECT_EQ(disk.Read("My.prf.bak"), foreign);
 }
 
-TEST_F(StartUpTest, AShortArchiveFileIsWrittenOnlyWhenItWasChangedAndKeptThen) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  const std::string damaged = world.disk.Read("Archive.vmk").substr(0, 600);
-  world.disk.Write("Archive.vmk", damaged);
+TEST_F(KnownArchiveTest, AShortPreferencesFileIsToldAndKeptBeforeItIsWritten) {
+  const std::string damaged = disk.Read("Program/manager.prf").substr(0, 300);
+  disk.Write("Program/manager.prf", damaged);
+  Program program = Started();
+  EXPECT_EQ(program.preferences.LastArchive, "T:\\Archive.vmk");
+  EXPECT_EQ(program.preferences.ShotFolder, "T:\\Program") << "the default";
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  ShutDown(program);
+  EXPECT_EQ(disk.Read("Program/manager.prf.bak"), damaged);
+  EXPECT_EQ(disk.Read("Program/manager.prf").size(), 524U);
+}
+
+TEST_F(KnownArchiveTest, AShortArchiveFileIsWrittenOnlyWhenItWasChangedAndKeptThen) {
+  const std::string damaged = disk.Read("Archive.vmk").substr(0, 600);
+  disk.Write("Archive.vmk", damaged);
   Program program = Started();
   EXPECT_EQ(program.archive.settings.MainFolder, "T:\\Archive");
-  EXPECT_EQ(world.boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown.size(), 1U);
   ShutDown(program);
-  EXPECT_EQ(world.disk.Read("Archive.vmk"), damaged);
+  EXPECT_EQ(disk.Read("Archive.vmk"), damaged);
 
   Program second = Started();
   second.archive.settings.GameFolder = "T:\\Game";
   ShutDown(second);
-  EXPECT_EQ(world.disk.Read("Archive.vmk.bak"), damaged);
-  EXPECT_EQ(world.disk.Read("Archive.vmk").size(), 1030U);
+  EXPECT_EQ(disk.Read("Archive.vmk.bak"), damaged);
+  EXPECT_EQ(disk.Read("Archive.vmk").size(), 1030U);
 }
 
 TEST_F(StartUpTest, ForeignContentIsNotTakenForAnArchive) {
-  world.WritePreferences();
+  WritePreferences();
   const std::string foreign(3000, '\1');
-  world.disk.Write("Archive.vmk", foreign);
+  disk.Write("Archive.vmk", foreign);
   Program program = Started();
   EXPECT_EQ(program.preferences.LastArchive, "");
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
+  ASSERT_EQ(boxes.shown.size(), 1U);
   ShutDown(program);
-  EXPECT_EQ(world.disk.Read("Archive.vmk"), foreign);
+  EXPECT_EQ(disk.Read("Archive.vmk"), foreign);
 }
 
 TEST_F(StartUpTest, CaptionsComeFirstAndTheOpeningSoundLast) {
-  world.WritePreferences(/*sounds=*/true);
-  Program program = world.NewProgram();
+  WritePreferences(/*sounds=*/true);
+  Program program = NewProgram();
   MainWindowLoaded(program);
-  EXPECT_EQ(world.windows.events.size(), 9U);
-  ASSERT_EQ(world.sounds.played.size(), 1U);
-  EXPECT_EQ(world.sounds.played[0], world.files.HostPath("T:\\Program\\s7.wav"));
+  EXPECT_EQ(windows.events.size(), 9U);
+  EXPECT_EQ(sounds.played, std::vector{files.HostPath("T:\\Program\\s7.wav")});
 }
 
-TEST_F(StartUpTest, NoFailingCallStopsARunOrCostsAFile) {
-  world.WriteArchiveFile();
-  world.WritePreferences(/*sounds=*/true);
-  world.AddSavegame("Archive/Slot1", 0, "A", 10);
-  world.disk.Write("Program/temp/savegame.0", "left");
-  const auto before = world.disk.AllFiles();
-  for (int call = 1;; ++call) {
-    world.files.Reset();
-    world.files.FailCall(call, FileError::kAccessDenied);
-    Program program = Started();
-    ShutDown(program);
-    if (world.files.calls() < call) break;
-    std::multiset<std::string> contents;
-    for (const auto& [name, bytes] : world.disk.AllFiles()) contents.insert(bytes);
-    for (const char* name : {"Archive/Slot1/savegame.0", "Program/temp/savegame.0"}) {
-      EXPECT_TRUE(contents.contains(before.at(name))) << name << " at call " << call;
-    }
-    const ArchiveSettings stored = DecodeArchive(world.disk.Read("Archive.vmk"));
-    EXPECT_EQ(stored.MainFolder, "T:\\Archive") << "call " << call;
-    EXPECT_TRUE(StoredPreferences().SoundEffects ||
-                std::filesystem::remove(world.disk.path() / "Program/manager.prf.bak"))
-        << "call " << call;
-    world.WritePreferences(/*sounds=*/true);
+// Savegames in the archive, and own slots that the last run has left in the backup folder.
+class LeftBackup : public StoredWorld {
+ public:
+  LeftBackup() {
+    WriteArchiveFile();
+    WritePreferences(/*sounds=*/true);
+    AddSavegame("Archive/Slot1", 0, "A", 10);
+    disk.Write("Program/temp/savegame.3", "own savegame");
+    disk.Write("Program/temp/shot3.jpg", "own picture");
   }
+
+  void Run() {
+    Program program = NewProgram();
+    StartUp(program);
+    ShutDown(program);
+  }
+};
+
+TEST(StartUpFailureTest, NoFailingCallStopsARunOrCostsAFile) {
+  Files savegames = LeftBackup().disk.AllFiles("Archive");
+  savegames.merge(LeftBackup().disk.AllFiles("Program/temp"));
+  testing::FailEveryCall<LeftBackup>(
+      FileError::kAccessDenied, std::mem_fn(&LeftBackup::Run), [&](LeftBackup& world) {
+        ExpectNothingLost(savegames, world.disk);
+        EXPECT_EQ(DecodeArchive(world.disk.Read("Archive.vmk")).MainFolder, "T:\\Archive");
+        EXPECT_TRUE(world.StoredPreferences().SoundEffects ||
+                    world.disk.Exists("Program/manager.prf.bak"));
+      });
 }
 
-class ShutDownTest : public StartUpTest {};
+using ShutDownTest = KnownArchiveTest;
 
 TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  world.AddSavegame("Archive/Slot1", 0, "A", 10);
   Program program = Started();
   program.preferences.SoundEffects = true;
   program.capture.ShotLinkedNotImported = true;
   program.capture.CaptureDialogOpen = true;
   program.capture.typed_note = "typed\x8Dtoo";
   program.details.ViewerOpen = true;
-  world.boxes.while_waiting = [this] {
-    EXPECT_EQ(DecodeArchive(world.disk.Read("Archive.vmk")).SavegameCount, 1);
+  boxes.while_waiting = [this] {
+    EXPECT_EQ(DecodeArchive(disk.Read("Archive.vmk")).SavegameCount, 1);
     EXPECT_TRUE(StoredPreferences().SoundEffects);
   };
   MainWindowClosing(program);
 
-  ASSERT_EQ(world.boxes.shown.size(), 2U);
-  EXPECT_NE(world.boxes.shown[1].text.find("Program\\rescued\\1\""), std::string::npos);
-  EXPECT_EQ(world.disk.Read("Program/rescued/1/note.txt"), "typed\x8Dtoo\r\n");
-  EXPECT_EQ(world.boxes.shown[0].text,
+  ASSERT_EQ(boxes.shown.size(), 2U);
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "Program\\rescued\\1\""));
+  EXPECT_EQ(disk.Read("Program/rescued/1/note.txt"), "typed\x8Dtoo\r\n");
+  EXPECT_EQ(boxes.shown[0].text,
             "Warning: Screen-shot you have linked at slot/savegame has not yet imported in "
             "archive.\rYou can import it later with [Import savegames] command");
-  EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::kExclamation);
-  EXPECT_TRUE(world.sounds.played.back().ends_with("s2.wav"));
+  EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kExclamation);
+  EXPECT_TRUE(sounds.played.back().ends_with("s2.wav"));
 
   std::vector<WindowId> closed;
-  for (const auto& [event, window] : world.windows.events) closed.push_back(window);
+  for (const auto& [event, window] : windows.events) closed.push_back(window);
   EXPECT_EQ(closed, (std::vector<WindowId>{
                         WindowId::kDialogScreenShot, WindowId::kDialogCattura,
                         WindowId::kDialogCattura, WindowId::kDialogCerca, WindowId::kDialogGetDir,
@@ -297,18 +282,15 @@ TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
 }
 
 TEST_F(ShutDownTest, FilesThatCannotBeWrittenAreToldAndStay) {
-  world.WriteArchiveFile();
-  world.WritePreferences();
-  world.AddSavegame("Archive/Slot1", 0, "A", 10);
   Program program = Started();
   program.preferences.SearchInNotes = false;
-  world.disk.MakeReadOnly("Archive.vmk");
-  world.disk.MakeReadOnly("Program/manager.prf");
-  const auto before = world.disk.AllFiles();
-  world.boxes.answers = {BoxAnswer::kNo};
+  disk.MakeReadOnly("Archive.vmk");
+  disk.MakeReadOnly("Program/manager.prf");
+  const auto before = disk.AllFiles();
+  boxes.answers = {BoxAnswer::kNo};
   ShutDown(program);
-  EXPECT_EQ(world.boxes.shown.size(), 2U) << world.boxes.AllTexts();
-  EXPECT_EQ(world.disk.AllFiles(), before);
+  EXPECT_EQ(boxes.shown.size(), 2U) << boxes.AllTexts();
+  EXPECT_EQ(disk.AllFiles(), before);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <functional>
 
 #include "archive/archive_commands.h"
 #include "archive/archive_file.h"
@@ -15,20 +15,20 @@
 #include "game/running_game.h"
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
+#include "support/every_call.h"
+#include "support/expectations.h"
 #include "support/test_world.h"
 
 namespace vellumark {
 namespace {
 
-using testing::Killed;
+using testing::Contains;
+using testing::Files;
 using testing::SavegameBytes;
-using testing::TestWorld;
-
-using Files = std::map<std::string, std::string>;
 
 // An archive of three sub-folders and a game folder with the player's own slots, among them files
 // that no slot number leads to.
-class PlayWorld : public TestWorld {
+class PlayWorld : public testing::TestWorld {
  public:
   PlayWorld() {
     AddSavegame("Archive/Slot1", 5, "North", 10);
@@ -43,9 +43,17 @@ class PlayWorld : public TestWorld {
     AddSavegame("Game", 16, "Own", 22);
     disk.Write("Game/savegame.bak", "own copy");
     disk.Write("Game/notes.txt", "own list");
+    own = InGame();
     WriteArchiveFile();
     WritePreferences();
     Start();
+  }
+
+  // What is in the game folder besides the game.
+  Files InGame() const {
+    Files slots = disk.AllFiles("Game");
+    EXPECT_EQ(slots.erase("tomb4.exe"), 1U);
+    return slots;
   }
 
   // A new run of the program; the user imports nothing.
@@ -73,443 +81,388 @@ class PlayWorld : public TestWorld {
     RestoreOriginalSavegames(*program);
   }
 
-  Files FilesIn(const std::string& folder) const {
-    Files found;
-    for (const std::string& name : disk.Names(folder)) {
-      found[name] = disk.Read(std::string(folder).append("/").append(name));
-    }
-    return found;
-  }
-
   std::optional<Program> program;
+  Files own;  // the player's own slots
 };
 
-Files WithoutExecutable(Files files) {
-  files.erase("tomb4.exe");
-  return files;
-}
+class PlayTest : public ::testing::Test, public PlayWorld {};
+using ExaminedEntryTest = PlayTest;
+using RunningGameTest = PlayTest;
 
-TEST(PlayTest, PutsTheOwnSlotsAsideAndTheSelectedSavegamesIntoTheSlots) {
-  PlayWorld world;
-  const Files own = WithoutExecutable(world.FilesIn("Game"));
-  const Files archive = world.disk.AllFiles();
-  world.clipboard.Put("older picture");
-  world.Play({0, 1, 2});
+TEST_F(PlayTest, PutsTheOwnSlotsAsideAndTheSelectedSavegamesIntoTheSlots) {
+  const Files archive = disk.AllFiles();
+  clipboard.Put("older picture");
+  Play({0, 1, 2});
 
-  EXPECT_TRUE(world.boxes.shown.empty()) << world.boxes.AllTexts();
-  EXPECT_EQ(world.FilesIn("Program/temp"), own);
-  EXPECT_EQ(WithoutExecutable(world.FilesIn("Game")),
-            (Files{{"savegame.0", archive.at("Archive/Slot1/savegame.5")},
-                   {"note0.txt", archive.at("Archive/Slot1/note5.txt")},
-                   {"shot0.jpg", "north picture"},
-                   {"savegame.1", archive.at("Archive/Slot2/savegame.5")},
-                   {"savegame.2", archive.at("Archive/Slot3/savegame.2")},
-                   {"shot2.jpg", "east picture"}}));
-  const PlayState& play = world.program->play;
+  EXPECT_TRUE(boxes.shown.empty()) << boxes.AllTexts();
+  EXPECT_EQ(disk.AllFiles("Program/temp"), own);
+  EXPECT_EQ(InGame(), (Files{{"savegame.0", archive.at("Archive/Slot1/savegame.5")},
+                             {"note0.txt", archive.at("Archive/Slot1/note5.txt")},
+                             {"shot0.jpg", "north picture"},
+                             {"savegame.1", archive.at("Archive/Slot2/savegame.5")},
+                             {"savegame.2", archive.at("Archive/Slot3/savegame.2")},
+                             {"shot2.jpg", "east picture"}}));
+  const PlayState& play = program->play;
   EXPECT_TRUE(play.ExaminedInGameFolder);
   EXPECT_EQ(play.ExaminedList, (std::vector<std::int16_t>{0, 1, 2}));
-  EXPECT_EQ(world.program->catalogue.entries.back().SavegamePath, "T:\\Program\\temp\\savegame.3");
-  EXPECT_EQ(world.clipboard.content, nullptr);
-  EXPECT_TRUE(world.program->capture.CaptureArmed);
-  ASSERT_EQ(world.shell.opened.size(), 1U);
-  EXPECT_EQ(world.shell.opened[0].document, world.files.HostPath("T:\\Game\\tomb4.exe"));
-  EXPECT_EQ(world.shell.opened[0].working_folder, world.files.HostPath("T:\\Game"));
-  EXPECT_FALSE(world.shell.opened[0].hidden);
+  EXPECT_EQ(program->catalogue.entries.back().SavegamePath, "T:\\Program\\temp\\savegame.3");
+  EXPECT_EQ(clipboard.content, nullptr);
+  EXPECT_TRUE(program->capture.CaptureArmed);
+  ASSERT_EQ(shell.opened.size(), 1U);
+  EXPECT_EQ(shell.opened[0].document, files.HostPath("T:\\Game\\tomb4.exe"));
+  EXPECT_EQ(shell.opened[0].working_folder, files.HostPath("T:\\Game"));
+  EXPECT_FALSE(shell.opened[0].hidden);
 }
 
-TEST(PlayTest, RefusesBeforeAnyFileIsTouched) {
-  PlayWorld world;
-  const Files before = world.disk.AllFiles();
+TEST_F(PlayTest, RefusesBeforeAnyFileIsTouched) {
+  const Files before = disk.AllFiles();
   const auto refusal = [&](std::vector<int> lines) {
-    world.Play(std::move(lines));
-    EXPECT_EQ(world.disk.AllFiles(), before);
-    EXPECT_FALSE(world.program->play.ExaminedInGameFolder);
-    EXPECT_TRUE(world.shell.opened.empty());
-    return world.boxes.AllTexts();
+    Play(std::move(lines));
+    EXPECT_EQ(disk.AllFiles(), before);
+    EXPECT_FALSE(program->play.ExaminedInGameFolder);
+    EXPECT_TRUE(shell.opened.empty());
+    return boxes.AllTexts();
   };
   EXPECT_TRUE(refusal({0, 1, 3}).starts_with("Warning: any selected savegames are yet in"));
   EXPECT_TRUE(refusal({}).starts_with("Warning: No selected savegames.\r\nIf you want"));
 
-  ArchiveSettings& settings = world.program->archive.settings;
+  ArchiveSettings& settings = program->archive.settings;
   settings.MaxSavegame = 2;
   EXPECT_EQ(refusal({0, 1, 2}), "You can not play more of 2 savegames at once\n");
   settings.MaxSavegame = 15;
   settings.GameFolder = "";
   EXPECT_NE(refusal({0}), "");
   settings.GameFolder = "T:\\Program\\temp";
-  EXPECT_NE(refusal({0}).find("keeps the backup"), std::string::npos);
+  EXPECT_TRUE(Contains(refusal({0}), "keeps the backup"));
 }
 
-TEST(PlayTest, RefusesASavegameThatLiesInTheGameFolderByAnotherPath) {
+TEST_F(PlayTest, RefusesASavegameThatLiesInTheGameFolderByAnotherPath) {
   if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  PlayWorld world;
   namespace fs = std::filesystem;
-  fs::create_directory_symlink(world.disk.path() / "Game", world.disk.path() / "Archive/Slot4");
-  ScanArchive(*world.program);
-  const Files before = world.disk.AllFiles();
-  world.Play({0, 3});
-  EXPECT_NE(world.boxes.AllTexts().find("\"t:\\archive\\slot4\\savegame.0\""), std::string::npos);
-  EXPECT_EQ(world.disk.AllFiles(), before);
+  fs::create_directory_symlink(disk.path() / "Game", disk.path() / "Archive/Slot4");
+  ScanArchive(*program);
+  const Files before = disk.AllFiles();
+  Play({0, 3});
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"t:\\archive\\slot4\\savegame.0\""));
+  EXPECT_EQ(disk.AllFiles(), before);
 
-  fs::remove(world.disk.path() / "Archive/Slot4");
-  fs::remove(world.disk.path() / "Archive/Slot1/savegame.5");
-  fs::create_symlink(world.disk.path() / "Game/savegame.3",
-                     world.disk.path() / "Archive/Slot1/savegame.5");
-  ScanArchive(*world.program);
-  world.Play({0});
-  EXPECT_NE(world.boxes.AllTexts().find("\"t:\\archive\\slot1\\savegame.5\""), std::string::npos);
-  EXPECT_FALSE(world.program->play.ExaminedInGameFolder);
+  disk.Remove({"Archive/Slot4", "Archive/Slot1/savegame.5"});
+  fs::create_symlink(disk.path() / "Game/savegame.3", disk.path() / "Archive/Slot1/savegame.5");
+  ScanArchive(*program);
+  Play({0});
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"t:\\archive\\slot1\\savegame.5\""));
+  EXPECT_FALSE(program->play.ExaminedInGameFolder);
 }
 
-TEST(PlayTest, ASecondPlayKeepsTheBackupAndSetsAsideWhatTheGameSaved) {
-  PlayWorld world;
-  world.Play({0, 1});
-  const Files backup = world.FilesIn("Program/temp");
+TEST_F(PlayTest, ASecondPlayKeepsTheBackupAndSetsAsideWhatTheGameSaved) {
+  Play({0, 1});
+  const Files backup = disk.AllFiles("Program/temp");
   const std::string saved = SavegameBytes("Played", 30);
-  world.disk.Write("Game/savegame.1", saved);
-  world.disk.Write("Game/savegame.7", saved + "7");
-  world.disk.Write("Game/shot7.jpg", "new picture");
-  world.Play({2});
+  disk.Write("Game/savegame.1", saved);
+  disk.Write("Game/savegame.7", saved + "7");
+  disk.Write("Game/shot7.jpg", "new picture");
+  Play({2});
 
-  EXPECT_EQ(world.FilesIn("Program/temp"), backup);
-  EXPECT_EQ(world.disk.Names("Game"),
-            (std::vector<std::string>{"savegame.0", "shot0.jpg", "tomb4.exe"}));
+  EXPECT_EQ(disk.AllFiles("Program/temp"), backup);
+  EXPECT_EQ(disk.Listed("Game"), "savegame.0|shot0.jpg|tomb4.exe|");
   EXPECT_EQ(
-      world.FilesIn("Program/rescued/1"),
+      disk.AllFiles("Program/rescued/1"),
       (Files{{"savegame.1", saved}, {"savegame.7", saved + "7"}, {"shot7.jpg", "new picture"}}));
-  EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Program\\rescued\\1\""), std::string::npos);
-  EXPECT_EQ(world.boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\rescued\\1\""));
+  EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
-TEST(PlayTest, RestoresAndSetsAsideSlotsThatAreLinks) {
+TEST_F(PlayTest, RestoresAndSetsAsideSlotsThatAreLinks) {
   if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  PlayWorld world;
   namespace fs = std::filesystem;
-  const fs::path game = world.disk.path() / "Game";
+  const fs::path game = disk.path() / "Game";
   const auto make_link = [&](const char* name) {
-    fs::rename(game / name, world.disk.path() / "Program" / name);
+    fs::rename(game / name, disk.path() / "Program" / name);
     fs::create_symlink(fs::path("../Program") / name, game / name);
   };
   make_link("savegame.3");
-  const Files own = world.FilesIn("Game");
-  world.Play({0});
-  world.disk.Write("Game/savegame.7", SavegameBytes("Played", 30));
+  Play({0});
+  disk.Write("Game/savegame.7", SavegameBytes("Played", 30));
   make_link("savegame.7");
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(world.FilesIn("Game"), own);
-  EXPECT_EQ(world.disk.Read("Program/rescued/1/savegame.7"), SavegameBytes("Played", 30));
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(InGame(), own);
+  EXPECT_EQ(disk.Read("Program/rescued/1/savegame.7"), SavegameBytes("Played", 30));
 }
 
-TEST(PlayTest, RestoresTheOwnSlotsAsOftenAsAsked) {
-  PlayWorld world;
-  const Files own = world.FilesIn("Game");
-  world.Play();
-  world.disk.Write("Game/savegame.0", SavegameBytes("Played", 30));
+TEST_F(PlayTest, RestoresTheOwnSlotsAsOftenAsAsked) {
+  Play();
+  disk.Write("Game/savegame.0", SavegameBytes("Played", 30));
   for (int time = 0; time < 2; ++time) {
-    world.Restore(BoxAnswer::kYes);
-    EXPECT_TRUE(world.boxes.shown[0].text.starts_with(
+    Restore(BoxAnswer::kYes);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with(
         "Restore in tomb raider folder the old original savegames?\r(Note"));
-    EXPECT_EQ(world.boxes.shown[0].buttons, BoxButtons::kYesNo);
-    EXPECT_EQ(world.boxes.shown.size(), time == 0 ? 2U : 1U) << "what the game saved, once";
-    EXPECT_EQ(world.FilesIn("Game"), own);
-    EXPECT_TRUE(world.program->play.ExaminedInGameFolder);
-    EXPECT_EQ(world.program->catalogue.entries.back().SavegamePath, "T:\\Game\\savegame.3");
+    EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::kYesNo);
+    EXPECT_EQ(boxes.shown.size(), time == 0 ? 2U : 1U) << "what the game saved, once";
+    EXPECT_EQ(InGame(), own);
+    EXPECT_TRUE(program->play.ExaminedInGameFolder);
+    EXPECT_EQ(program->catalogue.entries.back().SavegamePath, "T:\\Game\\savegame.3");
   }
-  EXPECT_EQ(world.disk.Read("Program/rescued/1/savegame.0"), SavegameBytes("Played", 30));
+  EXPECT_EQ(disk.Read("Program/rescued/1/savegame.0"), SavegameBytes("Played", 30));
 
   // A play after that finds the own slots in the backup, and what was saved since in no copy.
-  world.AddSavegame("Game", 4, "Own", 40);
-  world.Play({1});
-  EXPECT_EQ(world.disk.Read("Program/rescued/2/savegame.4"), SavegameBytes("Own", 40, 4));
-  EXPECT_EQ(world.program->catalogue.entries.back().SavegamePath, "T:\\Program\\temp\\savegame.3");
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(world.FilesIn("Game"), own);
+  AddSavegame("Game", 4, "Own", 40);
+  Play({1});
+  EXPECT_EQ(disk.Read("Program/rescued/2/savegame.4"), SavegameBytes("Own", 40, 4));
+  EXPECT_EQ(program->catalogue.entries.back().SavegamePath, "T:\\Program\\temp\\savegame.3");
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(InGame(), own);
 }
 
-TEST(PlayTest, TheNextStartFindsTheBackupOnlyWhenItWasNotRestored) {
-  PlayWorld world;
-  const Files own = WithoutExecutable(world.FilesIn("Game"));
-  world.Play();
-  world.boxes.answers = {BoxAnswer::kYes};
-  ShutDown(*world.program);
-  EXPECT_TRUE(world.disk.Names("Program/temp").empty());
-  world.boxes.shown.clear();
-  world.Start();
-  EXPECT_EQ(world.boxes.AllTexts().find("rescued"), std::string::npos) << world.boxes.AllTexts();
+TEST_F(PlayTest, TheNextStartFindsTheBackupOnlyWhenItWasNotRestored) {
+  Play();
+  boxes.answers = {BoxAnswer::kYes};
+  ShutDown(*program);
+  EXPECT_EQ(disk.Listed("Program/temp"), "");
+  boxes.shown.clear();
+  Start();
+  EXPECT_EQ(boxes.AllTexts().find("rescued"), std::string::npos) << boxes.AllTexts();
 
-  world.Play();
-  world.boxes.answers = {BoxAnswer::kNo};
-  ShutDown(*world.program);
-  EXPECT_EQ(world.disk.Read("Game/savegame.0"), world.disk.Read("Archive/Slot1/savegame.5"));
-  world.boxes.shown.clear();
-  world.Start();
-  EXPECT_EQ(world.FilesIn("Program/rescued/1"), own);
-  EXPECT_NE(world.boxes.AllTexts().find("rescued\\1"), std::string::npos);
+  Play();
+  boxes.answers = {BoxAnswer::kNo};
+  ShutDown(*program);
+  EXPECT_EQ(disk.Read("Game/savegame.0"), disk.Read("Archive/Slot1/savegame.5"));
+  boxes.shown.clear();
+  Start();
+  EXPECT_EQ(disk.AllFiles("Program/rescued/1"), own);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "rescued\\1"));
 }
 
-TEST(PlayTest, StopsWhenAnOwnSlotCannotBePutAside) {
-  PlayWorld world;
-  const Files own = world.FilesIn("Game");
-  world.files.FailAlways("Copy", "savegame.16", FileError::kDiskFull);
-  world.Play();
-  EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Game\\savegame.16\": the disk is full"),
-            std::string::npos);
-  EXPECT_EQ(world.FilesIn("Game"), own);
-  EXPECT_FALSE(world.program->play.ExaminedInGameFolder);
-  EXPECT_EQ(world.program->catalogue.entries.back().SavegamePath, "t:\\game\\savegame.3");
-  EXPECT_TRUE(world.shell.opened.empty());
+TEST_F(PlayTest, StopsWhenAnOwnSlotCannotBePutAside) {
+  files.FailAlways("Copy", "savegame.16", FileError::kDiskFull);
+  Play();
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Game\\savegame.16\": the disk is full"));
+  EXPECT_EQ(InGame(), own);
+  EXPECT_FALSE(program->play.ExaminedInGameFolder);
+  EXPECT_EQ(program->catalogue.entries.back().SavegamePath, "t:\\game\\savegame.3");
+  EXPECT_TRUE(shell.opened.empty());
 
-  world.files.Reset();
+  files.Reset();
   if (testing::DiskTellsCaseApart()) {
-    world.disk.Write("Game/SAVEGAME.3", "the same name again");
-    world.Play();
-    EXPECT_NE(world.boxes.AllTexts().find("exists twice"), std::string::npos);
-    EXPECT_EQ(world.disk.Read("Game/SAVEGAME.3"), "the same name again");
-    std::filesystem::remove(world.disk.path() / "Game/SAVEGAME.3");
+    disk.Write("Game/SAVEGAME.3", "the same name again");
+    Play();
+    EXPECT_TRUE(Contains(boxes.AllTexts(), "exists twice"));
+    EXPECT_EQ(disk.Read("Game/SAVEGAME.3"), "the same name again");
+    disk.Remove({"Game/SAVEGAME.3"});
   }
 
-  world.disk.MakeReadOnly("Game/savegame.3");
-  world.Play();
-  EXPECT_TRUE(world.boxes.shown.empty()) << world.boxes.AllTexts();
-  EXPECT_EQ(world.FilesIn("Program/temp"), WithoutExecutable(own));
+  disk.MakeReadOnly("Game/savegame.3");
+  Play();
+  EXPECT_TRUE(boxes.shown.empty()) << boxes.AllTexts();
+  EXPECT_EQ(disk.AllFiles("Program/temp"), own);
 }
 
-TEST(PlayTest, OffersTheRestoreWhenTheSlotsCouldNotBeFilled) {
-  PlayWorld world;
-  const Files own = world.FilesIn("Game");
-  world.files.FailAlways("Copy", "slot2\\savegame.5", FileError::kInputOutput);
-  world.Play();
-  ASSERT_EQ(world.boxes.shown.size(), 2U);
-  EXPECT_NE(world.boxes.shown[0].text.find("slot2\\savegame.5"), std::string::npos);
-  EXPECT_EQ(world.FilesIn("Game"), own) << "restored by the default answer";
-  EXPECT_TRUE(world.shell.opened.empty());
+TEST_F(PlayTest, OffersTheRestoreWhenTheSlotsCouldNotBeFilled) {
+  files.FailAlways("Copy", "slot2\\savegame.5", FileError::kInputOutput);
+  Play();
+  ASSERT_EQ(boxes.shown.size(), 2U);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "slot2\\savegame.5"));
+  EXPECT_EQ(InGame(), own) << "restored by the default answer";
+  EXPECT_TRUE(shell.opened.empty());
 }
 
-TEST(PlayTest, ABackupThatIsNotWholeIsNotRestoredUnlessTheUserDeletedOfIt) {
-  PlayWorld world;
-  world.Play();
-  const Files examined = world.FilesIn("Game");
-  std::filesystem::remove(world.disk.path() / "Program/temp/note3.txt");
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Program\\temp\\note3.txt\""), std::string::npos);
-  EXPECT_EQ(world.FilesIn("Game"), examined);
+TEST_F(PlayTest, ABackupThatIsNotWholeIsNotRestoredUnlessTheUserDeletedOfIt) {
+  Play();
+  const Files examined = disk.AllFiles("Game");
+  disk.Remove({"Program/temp/note3.txt"});
+  Restore(BoxAnswer::kYes);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\temp\\note3.txt\""));
+  EXPECT_EQ(disk.AllFiles("Game"), examined);
 
-  ForgetBackedUp(*world.program, "t:\\program\\TEMP\\note3.txt");
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(world.disk.Read("Game/savegame.3"), SavegameBytes("Own", 21, 3));
-  EXPECT_FALSE(world.disk.Exists("Game/note3.txt"));
+  ForgetBackedUp(*program, "t:\\program\\TEMP\\note3.txt");
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(disk.Read("Game/savegame.3"), SavegameBytes("Own", 21, 3));
+  EXPECT_FALSE(disk.Exists("Game/note3.txt"));
 }
 
-TEST(PlayTest, NothingIsPutOverASavegameThatCouldNotBeSetAside) {
-  PlayWorld world;
-  world.Play();
+TEST_F(PlayTest, NothingIsPutOverASavegameThatCouldNotBeSetAside) {
+  Play();
   const std::string saved = SavegameBytes("Played", 30);
-  world.disk.Write("Game/savegame.0", saved);
-  world.files.FailAlways("CreateFolder", "rescued", FileError::kDiskFull);
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(world.disk.Read("Game/savegame.0"), saved);
-  EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Program\\temp\""), std::string::npos)
-      << "where the own slots are";
-  world.Play({1});
-  EXPECT_EQ(world.disk.Read("Game/savegame.0"), saved);
-  EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Game\\savegame.0\""), std::string::npos);
+  disk.Write("Game/savegame.0", saved);
+  files.FailAlways("CreateFolder", "rescued", FileError::kDiskFull);
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(disk.Read("Game/savegame.0"), saved);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\temp\"")) << "where the own slots are";
+  Play({1});
+  EXPECT_EQ(disk.Read("Game/savegame.0"), saved);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Game\\savegame.0\""));
 }
 
 // A second game folder with an archive of its own.
-class TwoGamesTest : public ::testing::TestWithParam<BoxAnswer> {
+class TwoGamesTest : public ::testing::TestWithParam<BoxAnswer>, public PlayWorld {
  protected:
   TwoGamesTest() {
-    world.AddSavegame("Other", 0, "Other own", 70);
-    world.AddSavegame("Other", 9, "Other own", 71);
-    ArchiveSettings settings = world.program->archive.settings;
+    AddSavegame("Other", 0, "Other own", 70);
+    AddSavegame("Other", 9, "Other own", 71);
+    ArchiveSettings settings = program->archive.settings;
     settings.GameFolder = "T:\\Other";
-    world.disk.Write("Other.vmk", EncodeArchive(settings));
+    disk.Write("Other.vmk", EncodeArchive(settings));
+    other_own = disk.AllFiles("Other");
   }
 
   void LoadOther() {
-    world.dialogs.answers = {"T:\\Other.vmk"};
-    world.boxes.answers = {GetParam()};
-    LoadArchive(*world.program);
+    dialogs.answers = {"T:\\Other.vmk"};
+    boxes.answers = {GetParam()};
+    LoadArchive(*program);
   }
 
-  PlayWorld world;
+  Files other_own;
 };
 
 TEST_P(TwoGamesTest, LoseNeitherFoldersOwnSlots) {
-  const Files own = world.FilesIn("Game");
-  const Files other_own = world.FilesIn("Other");
-  world.Play({0, 1});
+  Play({0, 1});
   LoadOther();
-  EXPECT_EQ(world.FilesIn("Other"), other_own);
-  EXPECT_EQ(world.FilesIn("Game") == own, GetParam() == BoxAnswer::kYes);
+  EXPECT_EQ(disk.AllFiles("Other"), other_own);
+  EXPECT_EQ(InGame() == own, GetParam() == BoxAnswer::kYes);
 
   // Restoring again goes where the backup comes from.
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(world.FilesIn("Game"), own);
-  EXPECT_EQ(world.FilesIn("Other"), other_own);
-  EXPECT_NE(world.boxes.AllTexts().find("restored in folder \"T:\\Game\""), std::string::npos);
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(InGame(), own);
+  EXPECT_EQ(disk.AllFiles("Other"), other_own);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "restored in folder \"T:\\Game\""));
 }
 
 TEST_P(TwoGamesTest, APlayInTheOtherBacksItUpAndKeepsTheFirstBackup) {
-  const Files own = WithoutExecutable(world.FilesIn("Game"));
-  const Files other_own = world.FilesIn("Other");
-  world.Play({0, 1});
+  Play({0, 1});
   LoadOther();
-  world.Play({2});
-  EXPECT_EQ(world.FilesIn("Program/temp"), other_own);
-  EXPECT_EQ(world.disk.Names("Other"), (std::vector<std::string>{"savegame.0", "shot0.jpg"}));
+  Play({2});
+  EXPECT_EQ(disk.AllFiles("Program/temp"), other_own);
+  EXPECT_EQ(disk.Listed("Other"), "savegame.0|shot0.jpg|");
   if (GetParam() == BoxAnswer::kYes) {
-    EXPECT_EQ(WithoutExecutable(world.FilesIn("Game")), own);
-    EXPECT_FALSE(world.disk.Exists("Program/rescued"));
+    EXPECT_EQ(InGame(), own);
+    EXPECT_FALSE(disk.Exists("Program/rescued"));
   } else {
-    EXPECT_EQ(world.FilesIn("Program/rescued/1"), own);
-    EXPECT_NE(world.boxes.AllTexts().find("\"T:\\Program\\rescued\\1\""), std::string::npos);
+    EXPECT_EQ(disk.AllFiles("Program/rescued/1"), own);
+    EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\rescued\\1\""));
   }
-  EXPECT_EQ(world.program->catalogue.entries.back().LevelName, "Other own");
+  EXPECT_EQ(program->catalogue.entries.back().LevelName, "Other own");
 
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(world.FilesIn("Other"), other_own);
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(disk.AllFiles("Other"), other_own);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothAnswers, TwoGamesTest,
                          ::testing::Values(BoxAnswer::kYes, BoxAnswer::kNo));
 
-TEST(ExaminedEntryTest, HoldsAsLongAsSlotAndEntryAreThatSavegame) {
-  PlayWorld world;
-  world.Play({1, 2});
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), 1);
-  EXPECT_EQ(ExaminedEntry(*world.program, 1), 2);
-  EXPECT_EQ(ExaminedEntry(*world.program, 2), std::nullopt);
-  EXPECT_EQ(ExaminedEntry(*world.program, -1), std::nullopt);
+TEST_F(ExaminedEntryTest, HoldsAsLongAsSlotAndEntryAreThatSavegame) {
+  Play({1, 2});
+  EXPECT_EQ(ExaminedEntry(*program, 0), 1);
+  EXPECT_EQ(ExaminedEntry(*program, 1), 2);
+  EXPECT_EQ(ExaminedEntry(*program, 2), std::nullopt);
+  EXPECT_EQ(ExaminedEntry(*program, -1), std::nullopt);
 
-  SavegameChanges changes{.index = 1, .counter = "500"};
-  ApplySavegameChanges(*world.program, changes);
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), 1) << "its counter was edited";
-  ScanArchive(*world.program);
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), 1);
+  ApplySavegameChanges(*program, {.index = 1, .counter = "500"});
+  EXPECT_EQ(ExaminedEntry(*program, 0), 1) << "its counter was edited";
+  ScanArchive(*program);
+  EXPECT_EQ(ExaminedEntry(*program, 0), 1);
 
-  world.disk.Write("Game/savegame.1", SavegameBytes("Played", 30));
-  EXPECT_EQ(ExaminedEntry(*world.program, 1), std::nullopt) << "the game has saved over it";
-  world.AddSavegame("Archive/Slot1", 0, "New first", 1);
-  ScanArchive(*world.program);
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), std::nullopt) << "another entry has that index";
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/savegame.0");
-  ScanArchive(*world.program);
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), 1);
-  world.AddSavegame("Archive/Slot2", 5, "Replaced", 11);
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), std::nullopt) << "the archive holds another now";
+  disk.Write("Game/savegame.1", SavegameBytes("Played", 30));
+  EXPECT_EQ(ExaminedEntry(*program, 1), std::nullopt) << "the game has saved over it";
+  AddSavegame("Archive/Slot1", 0, "New first", 1);
+  ScanArchive(*program);
+  EXPECT_EQ(ExaminedEntry(*program, 0), std::nullopt) << "another entry has that index";
+  disk.Remove({"Archive/Slot1/savegame.0"});
+  ScanArchive(*program);
+  EXPECT_EQ(ExaminedEntry(*program, 0), 1);
+  AddSavegame("Archive/Slot2", 5, "Replaced", 11);
+  EXPECT_EQ(ExaminedEntry(*program, 0), std::nullopt) << "the archive holds another now";
 
-  world.Play({0});
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), 0);
-  world.Restore(BoxAnswer::kYes);
-  EXPECT_EQ(ExaminedEntry(*world.program, 0), std::nullopt) << "restored";
+  Play({0});
+  EXPECT_EQ(ExaminedEntry(*program, 0), 0);
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(ExaminedEntry(*program, 0), std::nullopt) << "restored";
 }
 
-TEST(RunningGameTest, IsFoundByItsExactTitleAndActivatedInsteadOfStarted) {
-  PlayWorld world;
-  world.desktop.open = {{1, ""},
-                        {2, "About Tomb Raider - The Last Revelation"},
-                        {3, "TOMB RAIDER - the last revelation"}};
-  StartGame(*world.program);
-  EXPECT_EQ(world.desktop.activated, std::vector<WindowHandle>{3});
-  EXPECT_EQ(world.desktop.entered, std::vector<WindowHandle>{3});
-  EXPECT_TRUE(world.shell.opened.empty());
-  EXPECT_TRUE(world.program->capture.CaptureArmed);
-  EXPECT_EQ(world.program->play.WindowList.size(), 2U);
-  EXPECT_EQ(world.files.CurrentFolder(), "T:\\Game");
+TEST_F(RunningGameTest, IsFoundByItsExactTitleAndActivatedInsteadOfStarted) {
+  desktop.open = {{1, ""},
+                  {2, "About Tomb Raider - The Last Revelation"},
+                  {3, "TOMB RAIDER - the last revelation"}};
+  StartGame(*program);
+  EXPECT_EQ(desktop.activated, std::vector<WindowHandle>{3});
+  EXPECT_EQ(desktop.entered, std::vector<WindowHandle>{3});
+  EXPECT_TRUE(shell.opened.empty());
+  EXPECT_TRUE(program->capture.CaptureArmed);
+  EXPECT_EQ(program->play.WindowList.size(), 2U);
+  EXPECT_EQ(files.CurrentFolder(), "T:\\Game");
   std::string title = "the last";
-  EXPECT_EQ(FindWindowByTitle(*world.program, title, true), 2U);
+  EXPECT_EQ(FindWindowByTitle(*program, title, true), 2U);
   EXPECT_EQ(title, "About Tomb Raider - The Last Revelation");
 
-  world.desktop.answer = Activation::kNotOurTurn;
-  EXPECT_TRUE(ActivateRunningGame(*world.program));
-  EXPECT_EQ(world.desktop.entered.size(), 1U) << "no key without the focus";
-  world.desktop.answer = Activation::kFailed;
-  StartGame(*world.program);
-  EXPECT_EQ(world.shell.opened.size(), 1U);
+  desktop.answer = Activation::kNotOurTurn;
+  EXPECT_TRUE(ActivateRunningGame(*program));
+  EXPECT_EQ(desktop.entered.size(), 1U) << "no key without the focus";
+  desktop.answer = Activation::kFailed;
+  StartGame(*program);
+  EXPECT_EQ(shell.opened.size(), 1U);
 }
 
-TEST(RunningGameTest, OnlyTheGameItselfIsStarted) {
-  PlayWorld world;
-  world.program->archive.settings.GameExecutable = "T:\\Game\\setup.exe ";
-  EXPECT_TRUE(ActivateRunningGame(*world.program));
-  StartGame(*world.program);
-  EXPECT_TRUE(world.shell.opened.empty());
-  world.program->archive.settings.GameExecutable = "T:\\Game\\TOMB4.EXE ";
-  world.boxes.shown.clear();
-  world.shell.answer = false;
-  world.shell.missing = "Wine";
-  StartGame(*world.program);
-  StartGame(*world.program);
-  EXPECT_EQ(world.shell.opened.size(), 2U);
-  ASSERT_EQ(world.boxes.shown.size(), 1U) << "told once";
-  EXPECT_NE(world.boxes.shown[0].text.find("needs Wine"), std::string::npos);
-  world.shell.missing.clear();
-  world.disk.Write("Other/tomb4.exe", "MZ");
-  for (const auto& [executable, why] :
-       {std::pair("T:\\Game\\Tomb4.exe", "this file is no program"),
-        std::pair("T:\\Other\\tomb4.exe", "could not be started")}) {
-    world.program->archive.settings.GameExecutable = executable;
-    StartGame(*world.program);
-    EXPECT_NE(world.boxes.shown.back().text.find(why), std::string::npos);
-  }
-}
+TEST_F(RunningGameTest, OnlyTheGameItselfIsStarted) {
+  program->archive.settings.GameExecutable = "T:\\Game\\setup.exe ";
+  EXPECT_TRUE(ActivateRunningGame(*program));
+  StartGame(*program);
+  EXPECT_TRUE(shell.opened.empty());
+  program->archive.settings.GameExecutable = "T:\\Game\\TOMB4.EXE ";
+  boxes.shown.clear();
+  shell.answer = false;
+  shell.missing = "Wine";
+  StartGame(*program);
+  StartGame(*program);
+  EXPECT_EQ(shell.opened.size(), 2U);
+  ASSERT_EQ(boxes.shown.size(), 1U) << "told once";
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "needs Wine"));
 
-// Every savegame and picture of the archive and of the own slots, and what the game saved.
-void ExpectNothingLost(const Files& before, const PlayWorld& world, const std::string& when) {
-  std::set<std::string> contents;
-  for (const auto& [name, bytes] : world.disk.AllFiles()) contents.insert(bytes);
-  for (const auto& [name, bytes] : before) {
-    if (!name.starts_with("Archive/") && !name.starts_with("Game/")) continue;
-    EXPECT_TRUE(contents.contains(bytes)) << name << " is lost " << when;
+  shell.missing.clear();
+  for (const char* why : {"this file is no program", "could not be started"}) {
+    StartGame(*program);
+    EXPECT_TRUE(Contains(boxes.shown.back().text, why));
+    disk.Write("Game/tomb4.exe", "MZ");
   }
 }
 
 // A play, a save by the game, a play in which that must be set aside, and the restore.
-void PlayTwice(PlayWorld& world, Files& before) {
-  before = world.disk.AllFiles();
-  world.Play({0, 1});
-  if (world.program->play.ExaminedInGameFolder) {
-    world.disk.Write("Game/savegame.1", SavegameBytes("Played", 30));
-    before["Game/saved by the game"] = SavegameBytes("Played", 30);
-  }
-  world.Play({2});
-  world.boxes.answers = {BoxAnswer::kYes};
-  ShutDown(*world.program);
-}
-
-TEST(PlayTest, AFailureOfAnyCallLosesNothing) {
-  for (int call = 1;; ++call) {
-    PlayWorld world;
-    Files before;
-    world.files.FailCall(call, FileError::kInputOutput);
-    const int calls_before = world.files.calls();
-    PlayTwice(world, before);
-    if (world.files.calls() - calls_before < call) break;
-    const std::string when = "after call " + std::to_string(call) + " failed";
-    ExpectNothingLost(before, world, when);
-    world.files.Reset();
-    world.Start();
-    ExpectNothingLost(before, world, when + ", at the next start");
-  }
-}
-
-TEST(PlayTest, DyingAtAnyCallLosesNothing) {
-  for (int call = 1;; ++call) {
-    PlayWorld world;
-    Files before;
-    world.files.KillAtCall(call, false);
-    try {
-      PlayTwice(world, before);
-      break;
-    } catch (const Killed&) {
+class TwicePlayed : public PlayWorld {
+ public:
+  void Run() {
+    Play({0, 1});
+    if (program->play.ExaminedInGameFolder) {
+      disk.Write("Game/savegame.1", SavegameBytes("Played", 30));
+      precious["saved by the game"] = SavegameBytes("Played", 30);
     }
-    const std::string when = "after dying at call " + std::to_string(call);
-    ExpectNothingLost(before, world, when);
-    world.files.Reset();
-    world.Start();
-    ExpectNothingLost(before, world, when + ", at the next start");
+    Play({2});
+    boxes.answers = {BoxAnswer::kYes};
+    ShutDown(*program);
   }
+
+  void CheckNowAndAtTheNextStart() {
+    ExpectNothingLost(precious, disk);
+    files.Reset();
+    Start();
+    ExpectNothingLost(precious, disk);
+  }
+
+ private:
+  Files Precious() const {
+    Files all = disk.AllFiles("Archive");
+    all.merge(disk.AllFiles("Game"));
+    return all;
+  }
+
+  // Every savegame and picture of the archive and of the own slots, and what the game saved.
+  Files precious = Precious();
+};
+
+TEST(TwicePlayedTest, AFailureOfAnyCallLosesNothing) {
+  testing::FailEveryCall<TwicePlayed>(FileError::kInputOutput, std::mem_fn(&TwicePlayed::Run),
+                                      std::mem_fn(&TwicePlayed::CheckNowAndAtTheNextStart));
+}
+
+TEST(TwicePlayedTest, DyingAtAnyCallLosesNothing) {
+  testing::DieAtEveryCall<TwicePlayed>(std::mem_fn(&TwicePlayed::Run),
+                                       std::mem_fn(&TwicePlayed::CheckNowAndAtTheNextStart));
 }
 
 }  // namespace

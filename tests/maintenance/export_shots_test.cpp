@@ -2,21 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "archive/scan.h"
 #include "maintenance/folder_chooser.h"
-#include "support/test_drives.h"
-#include "support/test_world.h"
+#include "support/expectations.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
+using testing::Contains;
 // An archive whose savegames all have a screen-shot that tells its slot. T:\Shots is empty.
-class ExportShotsTest : public ::testing::Test, public testing::TestWorld {
+class ExportShotsTest : public ::testing::Test, public testing::OpenWorld {
  protected:
-  ExportShotsTest() {
-    disk.MakeFolder("Shots");
-    program.archive.settings = {"Slot", "T:\\Archive", "T:\\Game", "T:\\Game\\tomb4.exe", 15, 0};
-  }
+  ExportShotsTest() { disk.MakeFolder("Shots"); }
 
   void Add(const std::string& folder, int slot, const std::string& level, std::int16_t counter) {
     AddSavegame(folder, slot, level, counter);
@@ -25,17 +22,12 @@ class ExportShotsTest : public ::testing::Test, public testing::TestWorld {
   }
 
   void Export() {
-    ScanArchive(program);
-    boxes.shown.clear();
-    sounds.played.clear();
+    Rescan();
     ExportLinkedShots(program, "T:\\Shots");
   }
-
-  Program program = NewProgram();
 };
 
 TEST_F(ExportShotsTest, NamesEachPictureByLevelAndCounterAndCountsEveryAttempt) {
-  program.preferences.SoundEffects = true;
   Add("Archive/Slot1", 0, "Tower", 3);
   Add("Archive/Slot1", 1, "Tower", -3);
   Add("Archive/Slot1", 2, "Tower", 3);
@@ -43,14 +35,11 @@ TEST_F(ExportShotsTest, NamesEachPictureByLevelAndCounterAndCountsEveryAttempt) 
   AddSavegame("Game", 1, "Without", 2);
   disk.Write("Shots/tower_3.jpg", "an older one");
   Export();
-  EXPECT_EQ(disk.Names("Shots"),
-            (std::vector<std::string>{"Maze._1.jpg", "Tower_-3.jpg", "tower_3.jpg"}));
+  EXPECT_EQ(disk.Listed("Shots"), "Maze._1.jpg|Tower_-3.jpg|tower_3.jpg|");
   EXPECT_EQ(disk.Read("Shots/tower_3.jpg"), "Archive/Slot1 2") << "the later one stays";
-  ASSERT_EQ(boxes.shown.size(), 1U);
-  EXPECT_EQ(boxes.shown[0].text, "Copied 4 screenshots in folder\"T:\\Shots\"");
+  EXPECT_EQ(boxes.AllTexts(), "Copied 4 screenshots in folder\"T:\\Shots\"\n");
   EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kNone);
-  ASSERT_EQ(sounds.played.size(), 1U);
-  EXPECT_TRUE(sounds.played[0].ends_with("s6.wav"));
+  EXPECT_EQ(sounds.Take(), "s6|");
 }
 
 TEST_F(ExportShotsTest, ReplacesWhatAFileNameCannotHold) {
@@ -61,9 +50,9 @@ TEST_F(ExportShotsTest, ReplacesWhatAFileNameCannotHold) {
   Add("Archive/Slot1", 4, "con.x", 3);
   Add("Archive/Slot1", 5, "..\\..\\up", 4);
   Export();
-  EXPECT_EQ(disk.Names("Shots"),
-            (std::vector<std::string>{".._.._up_4.jpg", "What__1 (2).jpg", "What__1 (3).jpg",
-                                      "What__1.jpg", "a_b_c_d__2.jpg", "con_x_3.jpg"}));
+  EXPECT_EQ(
+      disk.Listed("Shots"),
+      ".._.._up_4.jpg|What__1 (2).jpg|What__1 (3).jpg|What__1.jpg|a_b_c_d__2.jpg|con_x_3.jpg|");
   EXPECT_EQ(disk.Read("Shots/What__1.jpg"), "Archive/Slot1 1") << "its name needs no change";
   EXPECT_EQ(disk.Read("Shots/What__1 (2).jpg"), "Archive/Slot1 0");
 }
@@ -73,7 +62,7 @@ TEST_F(ExportShotsTest, ALinkedScreenShotIsNeverWrittenOver) {
   Add("Archive/Slot1", 0, "Tower", 3);
   Add("Archive/Slot1", 1, "Maze", 4);
   disk.Write("Shots/Tower_3.jpg", "linked by Maze");
-  std::filesystem::remove(disk.path() / "Archive/Slot1/shot1.jpg");
+  disk.Remove({"Archive/Slot1/shot1.jpg"});
   std::filesystem::create_symlink(disk.path() / "Shots/Tower_3.jpg",
                                   disk.path() / "Archive/Slot1/shot1.jpg");
   Export();
@@ -89,13 +78,13 @@ TEST_F(ExportShotsTest, FailuresCountAndAreNamedOnceAtTheEnd) {
   Export();
   ASSERT_EQ(boxes.shown.size(), 2U);
   EXPECT_EQ(boxes.shown[0].text, "Copied 2 screenshots in folder\"T:\\Shots\"");
-  EXPECT_NE(boxes.shown[1].text.find("\\shot0.jpg\": "), std::string::npos) << boxes.shown[1].text;
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "\\shot0.jpg\": "));
   EXPECT_TRUE(disk.Exists("Shots/Maze_4.jpg"));
 }
 
 TEST_F(ExportShotsTest, TheChooserExportsIntoItsFolderAndKeepsItForTheNextTime) {
   Add("Archive/Slot1", 0, "Tower", 3);
-  ScanArchive(program);
+  Rescan();
   program.chooser.FolderChooserMode = ChooserMode::kExportShots;
   EXPECT_TRUE(TakeFolder(program, "T:\\Shots"));
   EXPECT_TRUE(disk.Exists("Shots/Tower_3.jpg"));

@@ -2,22 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 #include <set>
 
-#include "archive/scan.h"
 #include "maintenance/reorder_order.h"
 #include "maintenance/reorder_plan.h"
-#include "support/test_drives.h"
-#include "support/test_world.h"
+#include "support/every_call.h"
+#include "support/expectations.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
-using testing::Killed;
+using testing::Contains;
+using testing::Files;
 using testing::SavegameBytes;
-using testing::TestWorld;
-using Files = std::map<std::string, std::string>;
 
 // The exchange sort as it is defined.
 std::vector<std::size_t> ExchangeSorted(const std::vector<std::int16_t>& counters, bool* swapped) {
@@ -67,7 +67,7 @@ TEST(ReorderPercentTest, RoundsHalvesToEvenAndStaysWithinTheBar) {
 
 // An archive of two sub-folders, T:\Archive\Slot1 and Slot2, and a game folder with a savegame that
 // the archive has too. T:\New is empty.
-class ReorderTest : public ::testing::Test, public TestWorld {
+class ReorderTest : public ::testing::Test, public testing::OpenWorld {
  protected:
   ReorderTest() { Prepare(); }
 
@@ -84,16 +84,9 @@ class ReorderTest : public ::testing::Test, public TestWorld {
     disk.Write("Archive/Slot2/info.txt", "old list\r\n");
     disk.Write("Archive/info.txt", "main list\r\n");
     AddSavegame("Game", 0, "Tower", 9);
-    program.archive.settings = {"Slot", "T:\\Archive", "T:\\Game", "T:\\Game\\tomb4.exe", 15, 0};
+    program.archive.settings = testing::WorldSettings();
     program.play.BackupFolder = "T:\\Program\\temp";
     Rescan();
-  }
-
-  void Rescan() {
-    ScanArchive(program);
-    boxes.shown.clear();
-    sounds.played.clear();
-    files.Reset();
   }
 
   bool Reorder() {
@@ -112,26 +105,12 @@ class ReorderTest : public ::testing::Test, public TestWorld {
     return found;
   }
 
-  std::string Refusal() {
-    const Files before = disk.AllFiles();
-    EXPECT_FALSE(Reorder());
-    EXPECT_EQ(disk.AllFiles(), before);
-    EXPECT_EQ(boxes.shown.size(), 1U);
-    if (boxes.shown.size() != 1U) return {};
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kCritical);
-    std::string refusal = boxes.shown[0].text;
-    boxes.shown.clear();
-    return refusal;
-  }
-
-  Program program = NewProgram();
   ReorderSettings settings{.BasePath = "T:\\New", .FolderName = "Part", .MaxSlot = 9};
   std::vector<int> shown;
 };
 
 TEST_F(ReorderTest, CopiesSortedByCounterAndMakesTheNewArchiveTheCurrentOne) {
   const Files before = disk.AllFiles();
-  program.preferences.SoundEffects = true;
   ASSERT_TRUE(Reorder());
   EXPECT_EQ(NewSavegames(),
             (std::vector<std::string>{"Part1/savegame.0: Tower 1", "Part1/savegame.1: Tower 3",
@@ -140,20 +119,19 @@ TEST_F(ReorderTest, CopiesSortedByCounterAndMakesTheNewArchiveTheCurrentOne) {
   EXPECT_EQ(disk.Read("New/Part1/note2.txt"), "three\r\n");
   EXPECT_EQ(disk.Read("New/Part1/shot3.jpg"), "picture seven");
   EXPECT_EQ(disk.Names("New/Part1").size(), 7U);
-  for (const auto& [name, bytes] : before) EXPECT_EQ(disk.Read(name), bytes);
+  ExpectUntouched(before, disk);
 
-  ASSERT_EQ(boxes.shown.size(), 1U);
-  EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kNone);
-  EXPECT_EQ(boxes.shown[0].text,
+  EXPECT_EQ(boxes.AllTexts(),
             "Created new archive in \"T:\\New\"\rSubfolders name = \"Part\"\rSavegames = 5\r"
-            "Subfolders = 1\rEqual savegames erased = 0\rSome savegames were been re-sorted");
+            "Subfolders = 1\rEqual savegames erased = 0\rSome savegames were been re-sorted\n");
+  EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kNone);
   const ArchiveSettings expected{"Part", "T:\\New", "T:\\Game", "T:\\Game\\tomb4.exe", 9, 0};
   EXPECT_EQ(program.archive.settings, expected);
   EXPECT_TRUE(program.archive.ArchiveChanged);
   EXPECT_EQ(program.catalogue.EntryCount(), 6);
   EXPECT_EQ(program.catalogue.entries[0].SavegamePath, "t:\\new\\part1\\savegame.0");
   EXPECT_EQ(shown, (std::vector<int>{17, 33, 50, 67, 83, 100}));
-  EXPECT_EQ(sounds.played.size(), 2U) << "only those of the scan";
+  EXPECT_EQ(sounds.Take(), "s6|s2|") << "only those of the scan";
 
   settings.FolderName = "Again";
   ASSERT_TRUE(Reorder());
@@ -173,12 +151,12 @@ TEST_F(ReorderTest, BeginsSubfoldersWhereOneIsFullOrTheLevelChanges) {
     const std::string list = disk.Read(std::string("New/Part") + number + "/info.txt");
     EXPECT_TRUE(list.starts_with(std::string("T:\\NEW\\PART") + number + "\r\n"));
   }
-  EXPECT_NE(disk.Read("New/Part2/info.txt").find("savegame.1  7  Maze\r\n"), std::string::npos);
+  EXPECT_TRUE(Contains(disk.Read("New/Part2/info.txt"), "savegame.1  7  Maze\r\n"));
 
   settings = {.BasePath = "T:\\New", .FolderName = "Pair", .MaxSlot = 9, .MaxPerFolder = 4};
   ASSERT_TRUE(Reorder());
   EXPECT_EQ(NewSavegames("New/Pair1").size(), 4U);
-  EXPECT_EQ(disk.Names("New/Pair2"), (std::vector<std::string>{"savegame.0"}));
+  EXPECT_EQ(disk.Listed("New/Pair2"), "savegame.0|");
   settings = {.BasePath = "T:\\New", .FolderName = "Two", .MaxSlot = 1, .MaxPerFolder = -3};
   ASSERT_TRUE(Reorder());
   EXPECT_TRUE(disk.Exists("New/Two3/savegame.0"));
@@ -196,14 +174,12 @@ TEST_F(ReorderTest, DropsASavegameOnlyForAnEqualOneThatHasArrived) {
   ASSERT_TRUE(Reorder());
   EXPECT_EQ(NewSavegames().size(), 7U);
   // Dropped: Tower 9 of Slot2 or Slot1, and two of the game folder that the archive has.
-  EXPECT_NE(boxes.shown[0].text.find("Savegames = 7\r"), std::string::npos);
-  EXPECT_NE(boxes.shown[0].text.find("erased = 3\r"), std::string::npos) << boxes.shown[0].text;
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "Savegames = 7\r"));
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "erased = 3\r"));
 }
 
 TEST_F(ReorderTest, AGameSavegameNeverCostsTheArchivedOne) {
-  for (const char* folder : {"Archive/Slot1", "Archive/Slot2"}) {
-    std::filesystem::remove_all(disk.path() / folder);
-  }
+  disk.Remove({"Archive/Slot1", "Archive/Slot2"});
   AddSavegame("Archive/Slot1", 0, "Tower", 9);
   AddSavegame("Game", 1, "Maze", 1);
   Rescan();
@@ -212,7 +188,7 @@ TEST_F(ReorderTest, AGameSavegameNeverCostsTheArchivedOne) {
   settings.DeleteOldArchive = true;
   ASSERT_TRUE(Reorder());
   EXPECT_EQ(disk.Read("New/Part1/savegame.0"), SavegameBytes("Tower", 9));
-  EXPECT_NE(boxes.shown[0].text.find("erased = 0\r"), std::string::npos);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "erased = 0\r"));
   EXPECT_FALSE(disk.Exists("Archive/Slot1"));
 }
 
@@ -224,17 +200,16 @@ TEST_F(ReorderTest, AFailedCopyCostsNeitherItsEqualNorTheOldArchive) {
   const Files before = disk.AllFiles();
   files.FailAlways("Copy", "Slot1\\savegame.4", FileError::kDiskFull);
   ASSERT_TRUE(Reorder());
-  EXPECT_NE(boxes.shown[0].text.find("Savegames = 6\r"), std::string::npos) << "it counts";
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "Savegames = 6\r"));
   std::set<std::string> arrived;
   for (const auto& [name, bytes] : disk.AllFiles()) {
     if (name.starts_with("New/")) arrived.insert(bytes);
   }
   EXPECT_TRUE(arrived.contains(SavegameBytes("Maze", 7, 5)));
-  for (const auto& [name, bytes] : before) EXPECT_EQ(disk.Read(name), bytes);
+  ExpectUntouched(before, disk);
   const std::string& report = boxes.shown.back().text;
-  EXPECT_NE(report.find("\\Slot1\\savegame.4\": the disk is full"), std::string::npos) << report;
-  EXPECT_NE(report.find("nothing has been deleted from the old archive in \"T:\\Archive\""),
-            std::string::npos);
+  EXPECT_TRUE(Contains(report, "\\Slot1\\savegame.4\": the disk is full"));
+  EXPECT_TRUE(Contains(report, "nothing has been deleted from the old archive in \"T:\\Archive\""));
 }
 
 TEST_F(ReorderTest, DeletesTheOldArchiveWhenEverythingIsSafe) {
@@ -244,14 +219,14 @@ TEST_F(ReorderTest, DeletesTheOldArchiveWhenEverythingIsSafe) {
   settings.DeleteOldArchive = true;
   const Files before = disk.AllFiles();
   ASSERT_TRUE(Reorder());
-  EXPECT_EQ(disk.Names("Archive"), (std::vector<std::string>{"Slot4", "info.txt"}));
+  EXPECT_EQ(disk.Listed("Archive"), "Slot4|info.txt|");
   EXPECT_EQ(disk.Read("Game/savegame.0"), before.at("Game/savegame.0"));
   EXPECT_EQ(NewSavegames().size(), 5U);
   EXPECT_EQ(shown, (std::vector<int>{8, 16, 25, 34, 42, 50, 75, 100}));
   EXPECT_EQ(disk.Read("Program/rescued/1/note9.txt"), "of no savegame");
   EXPECT_EQ(disk.Read("Program/rescued/2/readme.txt"), "mine");
   ASSERT_EQ(boxes.shown.size(), 2U);
-  EXPECT_NE(boxes.shown[1].text.find("\"T:\\Program\\rescued\\2\""), std::string::npos);
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "\"T:\\Program\\rescued\\2\""));
 }
 
 TEST_F(ReorderTest, AnOldSubfolderWithAnythingNotCopiedStaysWholeAndIsNamed) {
@@ -279,11 +254,10 @@ TEST_F(ReorderTest, AnOldSubfolderWithAnythingNotCopiedStaysWholeAndIsNamed) {
     EXPECT_FALSE(disk.Exists("Archive/Slot1")) << named;
     EXPECT_GE(disk.Names("Archive/Slot2").size(), 3U) << named;
     const std::string& report = boxes.shown.back().text;
-    EXPECT_NE(report.find("\"T:\\Archive\\Slot2\": "), std::string::npos) << report;
-    EXPECT_NE(report.find(named), std::string::npos) << report;
+    EXPECT_TRUE(Contains(report, "\"T:\\Archive\\Slot2\": "));
+    EXPECT_TRUE(Contains(report, named));
 
-    std::filesystem::remove_all(disk.path() / "New");
-    std::filesystem::remove_all(disk.path() / "Archive");
+    disk.Remove({"New", "Archive"});
     Prepare();
   }
 }
@@ -300,7 +274,7 @@ TEST_F(ReorderTest, ADroppedSavegameThatHasChangedStays) {
     }
   };
   ASSERT_TRUE(Reorder());
-  EXPECT_EQ(disk.Names("Archive"), (std::vector<std::string>{"Slot1", "Slot3", "info.txt"}));
+  EXPECT_EQ(disk.Listed("Archive"), "Slot1|Slot3|info.txt|");
 }
 
 TEST_F(ReorderTest, WhatOnlyADroppedSavegameHasIsSetAside) {
@@ -334,7 +308,7 @@ TEST_F(ReorderTest, NeverDeletesTheNewSubfoldersOrOtherFoldersInUse) {
   // The new names continue those of the old archive, and one old name leads to the game folder.
   program.preferences.ScanAllSubfolders = false;
   settings.FolderName = "Slot1";
-  std::filesystem::remove_all(disk.path() / "Archive/Slot3");
+  disk.Remove({"Archive/Slot3"});
   for (int k = 2; k <= 9; ++k) disk.MakeFolder("Archive/Slot" + std::to_string(k));
   std::filesystem::create_directory_symlink(disk.path() / "Game", disk.path() / "Archive/Slot10");
   Rescan();
@@ -349,8 +323,8 @@ TEST_F(ReorderTest, NothingIsDeletedBeforeTheCopiesAreFlushed) {
   settings.DeleteOldArchive = true;
   const Files before = disk.AllFiles();
   ASSERT_TRUE(Reorder());
-  for (const auto& [name, bytes] : before) EXPECT_EQ(disk.Read(name), bytes);
-  EXPECT_NE(boxes.shown.back().text.find("did not confirm"), std::string::npos);
+  ExpectUntouched(before, disk);
+  EXPECT_TRUE(Contains(boxes.shown.back().text, "did not confirm"));
 }
 
 TEST_F(ReorderTest, ASubfolderThatCannotBeMadeStopsTheRun) {
@@ -360,27 +334,23 @@ TEST_F(ReorderTest, ASubfolderThatCannotBeMadeStopsTheRun) {
   const Files before = disk.AllFiles();
   const ArchiveSettings old_settings = program.archive.settings;
   EXPECT_FALSE(Reorder());
-  for (const auto& [name, bytes] : before) EXPECT_EQ(disk.Read(name), bytes);
+  ExpectUntouched(before, disk);
   EXPECT_EQ(program.archive.settings, old_settings);
   EXPECT_EQ(program.catalogue.EntryCount(), 6);
   ASSERT_EQ(boxes.shown.size(), 1U);
   const std::string& told = boxes.shown[0].text;
-  EXPECT_NE(told.find("\"T:\\New\\Part2\" could not be created: the name exists already"),
-            std::string::npos);
-  EXPECT_NE(told.find("3 savegames were copied before in 1 new sub-folders, the first is "
-                      "\"T:\\New\\Part1\""),
-            std::string::npos)
-      << told;
+  EXPECT_TRUE(Contains(told, "\"T:\\New\\Part2\" could not be created: the name exists already"));
+  EXPECT_TRUE(Contains(told,
+                       "3 savegames were copied before in 1 new sub-folders, the first is "
+                       "\"T:\\New\\Part1\""));
 }
 
 TEST_F(ReorderTest, SettingsThatCannotBeAreRefusedInOrder) {
-  program.preferences.SoundEffects = true;
   disk.MakeFolder("New/Taken1");
   disk.MakeFolder("Program/temp/Inner");
   disk.Write("New/file", "x");
-  using Settings = ReorderSettings;
   const std::string long_name(240, 'x');
-  const std::pair<Settings, const char*> cases[] = {
+  const std::pair<ReorderSettings, const char*> cases[] = {
       {{}, "You must type new archive path"},
       {{.BasePath = "T:\\None", .FolderName = "Part"}, "You must type new archive path"},
       {{.BasePath = "T:\\New\\file", .FolderName = "Part"}, "You must type new archive path"},
@@ -401,11 +371,10 @@ TEST_F(ReorderTest, SettingsThatCannotBeAreRefusedInOrder) {
        "inside \"T:\\Archive\\Slot2\""}};
   for (const auto& [tried, expected] : cases) {
     settings = tried;
-    sounds.played.clear();
-    const std::string refusal = Refusal();
-    EXPECT_NE(refusal.find(expected), std::string::npos) << expected << ": " << refusal;
-    ASSERT_EQ(sounds.played.size(), 1U);
-    EXPECT_TRUE(sounds.played[0].ends_with("s5.wav"));
+    const Files before = disk.AllFiles();
+    EXPECT_FALSE(Reorder());
+    EXPECT_TRUE(Contains(TakeRefusal(), expected));
+    EXPECT_EQ(disk.AllFiles(), before);
   }
 }
 
@@ -415,48 +384,38 @@ TEST_F(ReorderTest, TheMainFolderIsKeptWithItsDrive) {
   ASSERT_TRUE(Reorder());
   EXPECT_EQ(program.archive.settings.MainFolder, "T:\\New");
   EXPECT_EQ(program.catalogue.EntryCount(), 6);
-  std::filesystem::current_path("/");
 }
 
 TEST_F(ReorderTest, AnEmptyArchiveBecomesAnEmptyArchive) {
-  for (const char* folder : {"Archive/Slot1", "Archive/Slot2", "Game"}) {
-    std::filesystem::remove_all(disk.path() / folder);
-  }
+  disk.Remove({"Archive/Slot1", "Archive/Slot2", "Game"});
   program.catalogue.entries.clear();
   settings.DeleteOldArchive = true;
   settings.CreateInfoFiles = true;
   ASSERT_TRUE(Reorder());
-  EXPECT_TRUE(disk.Names("New").empty());
+  EXPECT_EQ(disk.Listed("New"), "");
   EXPECT_TRUE(
       boxes.shown[0].text.ends_with("Savegames = 0\rSubfolders = 0\rEqual savegames "
                                     "erased = 0\rAll savegames were in correct order"));
 }
 
 TEST_F(ReorderTest, NumbersAreTakenAsTheyAreTyped) {
-  program.preferences.SoundEffects = true;
   settings.MaxSlot = 0;
-  const std::tuple<const char*, int, const char*> typed[] = {
-      {"1", 1, nullptr},   {"1x", 1, "Type only digits, please"},
-      {"", 1, nullptr},    {"2.5", 2, nullptr},
-      {"-4", -4, nullptr}, {"40000", -4, "This number cannot be used"}};
-  for (const auto& [entered, value, refusal] : typed) {
-    boxes.shown.clear();
-    sounds.played.clear();
-    TypeMaxSlot(program, settings, entered);
-    TypeMaxPerFolder(program, settings, entered);
-    EXPECT_EQ(settings.MaxSlot, value) << entered;
-    EXPECT_EQ(settings.MaxPerFolder, value) << entered;
-    ASSERT_EQ(boxes.shown.size(), refusal == nullptr ? 0U : 2U) << entered;
-    EXPECT_EQ(sounds.played.size(), boxes.shown.size());
-    if (refusal != nullptr) {
-      EXPECT_TRUE(boxes.shown[1].text.starts_with(refusal));
-      EXPECT_EQ(boxes.shown[1].icon, BoxIcon::kCritical);
+  const std::tuple<const char*, int, const char*> cases[] = {
+      {"1", 1, ""},   {"1x", 1, "Type only digits, please"},      {"", 1, ""}, {"2.5", 2, ""},
+      {"-4", -4, ""}, {"40000", -4, "This number cannot be used"}};
+  for (const auto& [typed, value, refusal] : cases) {
+    SCOPED_TRACE(typed);
+    for (const bool slot : {true, false}) {
+      (slot ? TypeMaxSlot : TypeMaxPerFolder)(program, settings, typed);
+      EXPECT_EQ(slot ? settings.MaxSlot : settings.MaxPerFolder, value);
+      const bool refused = *refusal != '\0';
+      EXPECT_TRUE(refused ? TakeRefusal().starts_with(refusal) : boxes.shown.empty());
     }
   }
 }
 
 // A small run with everything in it, on a fresh disk.
-class WholeReorder : public TestWorld {
+class WholeReorder : public testing::OpenWorld {
  public:
   WholeReorder() {
     disk.MakeFolder("New");
@@ -465,11 +424,7 @@ class WholeReorder : public TestWorld {
     disk.Write("Archive/Slot1/note0.txt", "nine\r\n");
     disk.Write("Archive/Slot2/shot0.jpg", "picture");
     disk.Write("Archive/Slot2/strange.txt", "strange");
-    program.archive.settings = {"Slot", "T:\\Archive", "T:\\Game", "T:\\Game\\tomb4.exe", 15, 0};
-    ScanArchive(program);
-    boxes.shown.clear();
-    files.Reset();
-    before = disk.AllFiles();
+    Rescan();
   }
 
   void Run() {
@@ -482,47 +437,29 @@ class WholeReorder : public TestWorld {
     ReorderArchive(program, settings, [](int) {});
   }
 
-  void ExpectNothingLost(const std::string& when) {
-    std::set<std::string> contents;
-    for (const auto& [name, bytes] : disk.AllFiles()) contents.insert(bytes);
-    for (const auto& [name, bytes] : before) {
-      EXPECT_TRUE(contents.contains(bytes)) << name << " is lost " << when;
-    }
+  bool OldArchiveIsLeft() const {
+    return disk.Exists("Archive/Slot1") || disk.Exists("Archive/Slot2");
   }
-
-  Program program = NewProgram();
-  Files before;
 };
 
 TEST(WholeReorderTest, NoFailingCallLosesAnythingOrPassesInSilence) {
   WholeReorder whole;
+  const Files before = whole.disk.AllFiles();
   whole.Run();
-  ASSERT_FALSE(whole.disk.Exists("Archive/Slot1") || whole.disk.Exists("Archive/Slot2"));
-
-  for (int call = 1; call <= whole.files.calls(); ++call) {
-    WholeReorder world;
-    const std::string when = "at call " + std::to_string(call);
-    world.files.FailCall(call, FileError::kAccessDenied);
-    world.Run();
-    world.ExpectNothingLost(when);
-
-    // What is left of the old archive was told.
-    const bool left = world.disk.Exists("Archive/Slot1") || world.disk.Exists("Archive/Slot2");
-    EXPECT_TRUE(!left || world.boxes.AllTexts() != whole.boxes.AllTexts()) << when;
-  }
+  ASSERT_FALSE(whole.OldArchiveIsLeft());
+  testing::FailEveryCall<WholeReorder>(
+      FileError::kAccessDenied, std::mem_fn(&WholeReorder::Run), [&](WholeReorder& world) {
+        ExpectNothingLost(before, world.disk);
+        EXPECT_TRUE(!world.OldArchiveIsLeft() || world.boxes.AllTexts() != whole.boxes.AllTexts())
+            << "what is left of the old archive was not told";
+      });
 }
 
 TEST(WholeReorderTest, DyingAtAnyCallLosesNothing) {
-  for (int call = 1;; ++call) {
-    WholeReorder world;
-    world.files.KillAtCall(call, false);
-    try {
-      world.Run();
-      break;
-    } catch (const Killed&) {
-      world.ExpectNothingLost("after dying before call " + std::to_string(call));
-    }
-  }
+  const Files before = WholeReorder().disk.AllFiles();
+  testing::DieAtEveryCall<WholeReorder>(std::mem_fn(&WholeReorder::Run), [&](WholeReorder& world) {
+    ExpectNothingLost(before, world.disk);
+  });
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ namespace {
 namespace stdfs = std::filesystem;
 
 TEST_F(DiskTest, FindsNamesInAnyLetterCaseOnTheWholeWay) {
-  host_.Put("Arc/Slot1/savegame.3", "three");
-  host_.Put("\xC3\x84rger.txt", "umlaut");
+  disk_.Write("Arc/Slot1/savegame.3", "three");
+  disk_.Write("\xC3\x84rger.txt", "umlaut");
 
   EXPECT_EQ(fs_.Read("t:\\arc\\SLOT1\\SaveGame.3", FileSystem::kWholeFile).bytes, "three");
   EXPECT_EQ(fs_.Read("T:\\\\arc\\slot1\\savegame.3", 2).bytes, "th");
@@ -30,7 +30,7 @@ TEST_F(DiskTest, ReadsFilesThatAreLongerThanABlock) {
   std::string bytes(200000, 'x');
   bytes[65536] = 'y';
   bytes.back() = 'z';
-  host_.Put("long", bytes);
+  disk_.Write("long", bytes);
   EXPECT_EQ(fs_.Read("T:\\long", FileSystem::kWholeFile).bytes, bytes);
   EXPECT_EQ(fs_.Read("T:\\long", 65537).bytes, bytes.substr(0, 65537));
   EXPECT_EQ(fs_.Read("T:\\long", 0).bytes, "");
@@ -40,7 +40,7 @@ TEST_F(DiskTest, ReadsFilesThatAreLongerThanABlock) {
 }
 
 TEST_F(DiskTest, AFolderHasOneLockAtATime) {
-  host_.Put("Arc/a", "");
+  disk_.Write("Arc/a", "");
   LockResult first = fs_.LockFolder("T:\\arc");
   ASSERT_EQ(first.answer, LockAnswer::kTaken);
   EXPECT_EQ(fs_.LockFolder("T:\\Arc").answer, LockAnswer::kHeldByAnother);
@@ -50,7 +50,7 @@ TEST_F(DiskTest, AFolderHasOneLockAtATime) {
 }
 
 TEST_F(DiskTest, ListsInAlphabeticalOrderWithoutCase) {
-  for (const char* name : {"b.vmk", "A.vmk", "c", "Sub/x", "a2.VMK"}) host_.Put(name, "");
+  for (const char* name : {"b.vmk", "A.vmk", "c", "Sub/x", "a2.VMK"}) disk_.Write(name, "");
 
   ASSERT_EQ(Names("T:\\*"), "A.vmk|a2.VMK|b.vmk|c|Sub|");
   EXPECT_EQ(Names("T:\\"), Names("T:\\*"));
@@ -72,8 +72,8 @@ TEST_F(DiskTest, ListsInAlphabeticalOrderWithoutCase) {
 }
 
 TEST_F(DiskTest, ANameBeyondTheCodePageIsListedApart) {
-  host_.Put("good", "");
-  host_.Put("\xE2\x98\x83.txt", "");
+  disk_.Write("good", "");
+  disk_.Write("\xE2\x98\x83.txt", "");
   const Listing listing = fs_.List("T:\\*");
   EXPECT_EQ(Names("T:\\*"), "good|");
   ASSERT_EQ(listing.unusable.size(), 1U);
@@ -83,14 +83,14 @@ TEST_F(DiskTest, ANameBeyondTheCodePageIsListedApart) {
 }
 
 TEST_F(DiskTest, AFolderReaderAnswersLikeListAndRead) {
-  host_.Put("Arc/Slot/savegame.0", "zero");
-  host_.Put("Arc/Slot/\xC3\x9C", "umlaut");
-  host_.Put("Arc/Slot/gone", "");
+  disk_.Write("Arc/Slot/savegame.0", "zero");
+  disk_.Write("Arc/Slot/\xC3\x9C", "umlaut");
+  disk_.Write("Arc/Slot/gone", "");
 
   const auto top = fs_.OpenFolder("T:\\ARC");
   ASSERT_EQ(top->Contents().entries.size(), 1U);
   const auto slot = top->OpenFolder(top->Contents().entries[0]);
-  stdfs::remove(host_ / "Arc/Slot/gone");
+  stdfs::remove(disk_ / "Arc/Slot/gone");
   const std::vector<FolderEntry>& entries = slot->Contents().entries;
   ASSERT_EQ(entries.size(), 3U);
 
@@ -123,13 +123,13 @@ TEST_F(DiskTest, ADriveWithoutItsFolderIsNotReady) {
   EXPECT_NE(letters.find('T'), std::string::npos) << letters;
   EXPECT_EQ(letters.find('Q'), std::string::npos) << letters;
 
-  stdfs::create_directory(host_ / "medium");
+  stdfs::create_directory(disk_ / "medium");
   EXPECT_EQ(fs_.List("D:\\*").error, FileError::kNone);
 }
 
 TEST_F(DiskTest, OneThingHasOneIdentity) {
-  host_.Put("Arc/a", "");
-  stdfs::create_hard_link(host_ / "Arc/a", host_ / "twin");
+  disk_.Write("Arc/a", "");
+  stdfs::create_hard_link(disk_ / "Arc/a", disk_ / "twin");
   EXPECT_TRUE(fs_.Identity("T:\\arc\\A").has_value());
   EXPECT_EQ(fs_.Identity("T:\\arc\\A"), fs_.Identity("T:\\twin"));
   EXPECT_NE(fs_.Identity("T:\\arc\\A"), fs_.Identity("T:\\arc"));
@@ -140,7 +140,7 @@ TEST_F(DiskTest, OneThingHasOneIdentity) {
 class CurrentFolderOfDiskTest : public DiskTest {
  protected:
   CurrentFolderOfDiskTest() {
-    host_.Put("Arc/Slot/a", "");
+    disk_.Write("Arc/Slot/a", "");
     EXPECT_EQ(fs_.SetCurrentFolder("T:\\Arc"), FileError::kNone);
   }
   ~CurrentFolderOfDiskTest() override { stdfs::current_path(before_); }

@@ -2,30 +2,31 @@
 
 #include <gtest/gtest.h>
 
+#include "support/expectations.h"
+#include "support/open_world.h"
 #include "support/test_drives.h"
-#include "support/test_world.h"
 
 namespace vellumark {
 namespace {
 
+using testing::OpenWorld;
 using testing::SavegameBytes;
-using testing::TestWorld;
 
 // Savegames in two sub-folders and a folder to copy them into; no catalogue.
-class CopySavegamesTest : public ::testing::Test {
+class CopySavegamesTest : public ::testing::Test, public OpenWorld {
  protected:
   CopySavegamesTest() {
     AddWhole("Archive/Slot1", 2);
     AddWhole("Archive/Slot1", 5);
     AddWhole("Archive/Slot2", 5);
-    world.disk.MakeFolder("Target");
+    disk.MakeFolder("Target");
   }
 
   void AddWhole(const std::string& folder, int slot) {
     const std::string number = std::to_string(slot);
-    world.AddSavegame(folder, slot, folder, static_cast<std::int16_t>(slot));
-    world.disk.Write(folder + "/note" + number + ".txt", "note of " + folder + number);
-    world.disk.Write(folder + "/shot" + number + ".jpg", "shot of " + folder + number);
+    AddSavegame(folder, slot, folder, static_cast<std::int16_t>(slot));
+    disk.Write(folder + "/note" + number + ".txt", "note of " + folder + number);
+    disk.Write(folder + "/shot" + number + ".jpg", "shot of " + folder + number);
   }
 
   // In lower case, as the catalogue names them.
@@ -46,68 +47,72 @@ class CopySavegamesTest : public ::testing::Test {
     const std::string number = std::to_string(slot);
     const std::string place = old_folder + std::to_string(old_slot);
     const auto counter = static_cast<std::int16_t>(old_slot);
-    EXPECT_EQ(world.disk.Read(folder + "/savegame." + number),
+    EXPECT_EQ(disk.Read(folder + "/savegame." + number),
               SavegameBytes(old_folder, counter, old_slot));
-    EXPECT_EQ(world.disk.Read(folder + "/note" + number + ".txt"), "note of " + place);
-    EXPECT_EQ(world.disk.Read(folder + "/shot" + number + ".jpg"), "shot of " + place);
+    EXPECT_EQ(disk.Read(folder + "/note" + number + ".txt"), "note of " + place);
+    EXPECT_EQ(disk.Read(folder + "/shot" + number + ".jpg"), "shot of " + place);
   }
 
   const SavegameFiles two = Files("archive\\slot1", 2);
   const SavegameFiles five = Files("archive\\slot1", 5);
   const SavegameFiles other_five = Files("archive\\slot2", 5);
-  TestWorld world;
-  Program program = world.NewProgram();
+};
+
+// T:\Archive\Same leads to Slot1.
+class LinkedFolderTest : public CopySavegamesTest {
+ protected:
+  void SetUp() override {
+    if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
+    std::filesystem::create_symlink("Slot1", disk.path() / "Archive/Same");
+  }
 };
 
 TEST_F(CopySavegamesTest, NumbersThemInSelectionOrderOrKeepsTheirNumbers) {
-  const auto before = world.disk.AllFiles();
+  const auto before = disk.AllFiles();
   EXPECT_EQ(Copy({five, other_five, two}, "Target", true).targets.size(), 9U);
   ExpectWhole("Target", 0, "Archive/Slot1", 5);
   ExpectWhole("Target", 1, "Archive/Slot2", 5);
   ExpectWhole("Target", 2, "Archive/Slot1", 2);
-  for (const auto& [name, bytes] : before) EXPECT_EQ(world.disk.Read(name), bytes);
+  ExpectUntouched(before, disk);
 
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/note2.txt");
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/shot2.jpg");
-  world.disk.Write("Kept/note2.txt", "an older note");
+  disk.Remove({"Archive/Slot1/note2.txt", "Archive/Slot1/shot2.jpg"});
+  disk.Write("Kept/note2.txt", "an older note");
   Copy({two, five}, "Kept", false);
-  EXPECT_EQ(world.disk.Names("Kept"),
-            (std::vector<std::string>{"note2.txt", "note5.txt", "savegame.2", "savegame.5",
-                                      "shot5.jpg"}));
-  EXPECT_EQ(world.disk.Read("Kept/note2.txt"), "an older note");
+  EXPECT_EQ(disk.Listed("Kept"), "note2.txt|note5.txt|savegame.2|savegame.5|shot5.jpg|");
+  EXPECT_EQ(disk.Read("Kept/note2.txt"), "an older note");
 }
 
 TEST_F(CopySavegamesTest, FillsTheFreeNumbersOfAFolderWithSavegames) {
-  world.disk.Write("Target/SAVEGAME.1", "one");
-  world.disk.Write("Target/savegame.bak", "a kept one");
+  disk.Write("Target/SAVEGAME.1", "one");
+  disk.Write("Target/savegame.bak", "a kept one");
   const SelectedCopies copies = Copy({two, five, other_five}, "Target", true);
   ExpectWhole("Target", 0, "Archive/Slot1", 2);
   ExpectWhole("Target", 2, "Archive/Slot1", 5);
   ExpectWhole("Target", 3, "Archive/Slot2", 5);
-  EXPECT_EQ(world.disk.Read("Target/SAVEGAME.1"), "one");
+  EXPECT_EQ(disk.Read("Target/SAVEGAME.1"), "one");
   EXPECT_TRUE(copies.set_aside.empty());
 }
 
 TEST_F(CopySavegamesTest, WhatACopyReplacesIsSetAsideInOneFolder) {
-  world.disk.Write("Target/savegame.2", "another savegame");
-  world.disk.Write("Target/note2.txt", "another note");
-  world.disk.Write("Target/shot5.jpg", world.disk.Read("Archive/Slot1/shot5.jpg"));
+  disk.Write("Target/savegame.2", "another savegame");
+  disk.Write("Target/note2.txt", "another note");
+  disk.Write("Target/shot5.jpg", disk.Read("Archive/Slot1/shot5.jpg"));
   const SelectedCopies copies = Copy({two, five}, "Target", false);
   EXPECT_EQ(copies.set_aside.size(), 2U) << "an equal file is no loss";
   EXPECT_EQ(copies.rescue_folder, "T:\\Program\\rescued\\1");
-  EXPECT_EQ(world.disk.Read("Program/rescued/1/savegame.2"), "another savegame");
-  EXPECT_EQ(world.disk.Read("Program/rescued/1/note2.txt"), "another note");
+  EXPECT_EQ(disk.Read("Program/rescued/1/savegame.2"), "another savegame");
+  EXPECT_EQ(disk.Read("Program/rescued/1/note2.txt"), "another note");
   ExpectWhole("Target", 2, "Archive/Slot1", 2);
   ExpectWhole("Target", 5, "Archive/Slot1", 5);
 }
 
 TEST_F(CopySavegamesTest, WhatCannotBeSetAsideIsNotReplaced) {
-  world.disk.Write("Program/rescued", "a file in the way");
-  world.disk.Write("Target/savegame.2", "another savegame");
-  world.disk.Write("Target/note5.txt", "another note");
+  disk.Write("Program/rescued", "a file in the way");
+  disk.Write("Target/savegame.2", "another savegame");
+  disk.Write("Target/note5.txt", "another note");
   const SelectedCopies copies = Copy({two, five}, "Target", false, CopyMode::kMove);
-  EXPECT_EQ(world.disk.Read("Target/savegame.2"), "another savegame");
-  EXPECT_EQ(world.disk.Read("Target/note5.txt"), "another note");
+  EXPECT_EQ(disk.Read("Target/savegame.2"), "another savegame");
+  EXPECT_EQ(disk.Read("Target/note5.txt"), "another note");
   ASSERT_EQ(copies.not_copied.size(), 2U);
   EXPECT_EQ(copies.not_copied[0].path, two.savegame);
   EXPECT_EQ(copies.not_copied[1].path, five.note);
@@ -116,39 +121,35 @@ TEST_F(CopySavegamesTest, WhatCannotBeSetAsideIsNotReplaced) {
 }
 
 TEST_F(CopySavegamesTest, AMissingSavegameIsNamedAndTheNextTakesItsNumber) {
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/savegame.2");
-  world.disk.Write("Target/savegame.0", "zero");
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/note5.txt");
+  disk.Remove({"Archive/Slot1/savegame.2", "Archive/Slot1/note5.txt"});
+  disk.Write("Target/savegame.0", "zero");
   const SelectedCopies copies = Copy({two, five}, "Target", true);
   ASSERT_EQ(copies.not_copied.size(), 1U);
   EXPECT_EQ(copies.not_copied[0].path, two.savegame);
   EXPECT_EQ(copies.not_copied[0].why, FileError::kNotFound);
-  EXPECT_EQ(world.disk.Names("Target"),
-            (std::vector<std::string>{"savegame.0", "savegame.1", "shot1.jpg"}))
+  EXPECT_EQ(disk.Listed("Target"), "savegame.0|savegame.1|shot1.jpg|")
       << "no note of another savegame";
 }
 
 TEST_F(CopySavegamesTest, AMoveFlushesOnceAndDeletesTheSources) {
   int flushes = 0;
-  world.files.meanwhile = [&](const std::string& operation) {
+  files.meanwhile = [&](const std::string& operation) {
     if (operation == "Flush") ++flushes;
     if (operation == "Delete" && flushes == 0) {
-      EXPECT_FALSE(world.disk.Names("Archive/Slot2").empty());
+      EXPECT_FALSE(disk.Names("Archive/Slot2").empty());
     }
   };
-  world.disk.MakeReadOnly("Archive/Slot1/savegame.5");
+  disk.MakeReadOnly("Archive/Slot1/savegame.5");
   const SelectedCopies copies = Copy({two, five, other_five}, "Target", true, CopyMode::kMove);
   EXPECT_EQ(flushes, 1);
   EXPECT_TRUE(copies.not_deleted.empty());
-  EXPECT_TRUE(world.disk.Names("Archive/Slot1").empty());
-  EXPECT_TRUE(world.disk.Names("Archive/Slot2").empty());
+  EXPECT_EQ(disk.Listed("Archive/Slot1"), "");
+  EXPECT_EQ(disk.Listed("Archive/Slot2"), "");
   ExpectWhole("Target", 0, "Archive/Slot1", 2);
   ExpectWhole("Target", 2, "Archive/Slot2", 5);
 }
 
-TEST_F(CopySavegamesTest, AMoveIntoASourceFolderReusesTheNumbersThatItFrees) {
-  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_symlink("Slot1", world.disk.path() / "Archive/Same");
+TEST_F(LinkedFolderTest, AMoveIntoASourceFolderReusesTheNumbersThatItFrees) {
   AddWhole("Archive/Slot1", 0);
   const SavegameFiles zero = Files("archive\\slot1", 0);
   Copy({zero, other_five, five}, "Archive\\Same", true, CopyMode::kMove);
@@ -157,73 +158,64 @@ TEST_F(CopySavegamesTest, AMoveIntoASourceFolderReusesTheNumbersThatItFrees) {
   ExpectWhole("Archive/Slot1", 0, "Archive/Slot2", 5);
   ExpectWhole("Archive/Slot1", 2, "Archive/Slot1", 2);
   ExpectWhole("Archive/Slot1", 3, "Archive/Slot1", 5);
-  EXPECT_EQ(world.disk.Names("Archive/Slot1").size(), 12U);
-  EXPECT_TRUE(world.disk.Names("Archive/Slot2").empty());
+  EXPECT_EQ(disk.Names("Archive/Slot1").size(), 12U);
+  EXPECT_EQ(disk.Listed("Archive/Slot2"), "");
 }
 
-TEST_F(CopySavegamesTest, AMoveOntoItselfChangesNothing) {
-  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_symlink("Slot1", world.disk.path() / "Archive/Same");
-  const auto before = world.disk.AllFiles();
+TEST_F(LinkedFolderTest, AMoveOntoItselfChangesNothing) {
+  const auto before = disk.AllFiles();
   for (const char* folder : {"Archive\\Slot1", "archive\\SLOT1", "Archive\\Same"}) {
     const SelectedCopies copies = Copy({two, five}, folder, false, CopyMode::kMove);
     EXPECT_TRUE(copies.not_copied.empty() && copies.not_deleted.empty());
-    EXPECT_EQ(world.disk.AllFiles(), before);
+    EXPECT_EQ(disk.AllFiles(), before);
   }
 }
 
 TEST_F(CopySavegamesTest, AMoveBehindALinkKeepsTheOnlyFile) {
   if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_hard_link(world.disk.path() / "Archive/Slot1/savegame.2",
-                                    world.disk.path() / "Target/savegame.2");
-  std::filesystem::create_directory(world.disk.path() / "Links");
-  std::filesystem::create_symlink(world.disk.path() / "Archive/Slot1/savegame.5",
-                                  world.disk.path() / "Links/savegame.5");
+  const std::string saved = disk / "Archive/Slot1/savegame.";
+  std::filesystem::create_hard_link(saved + '2', disk / "Target/savegame.2");
+  disk.MakeFolder("Links");
+  std::filesystem::create_symlink(saved + '5', disk / "Links/savegame.5");
   Copy({two, Files("links", 5)}, "Target", false, CopyMode::kMove);
-  EXPECT_EQ(world.disk.Read("Target/savegame.2"), SavegameBytes("Archive/Slot1", 2, 2));
+  EXPECT_EQ(disk.Read("Target/savegame.2"), SavegameBytes("Archive/Slot1", 2, 2));
   ExpectWhole("Archive/Slot1", 5, "Archive/Slot1", 5);
 
-  std::filesystem::create_symlink(world.disk.path() / "Archive/Slot1/savegame.5",
-                                  world.disk.path() / "Links/savegame.7");
-  std::filesystem::rename(world.disk.path() / "Links/savegame.7",
-                          world.disk.path() / "Links/savegame.5");
+  std::filesystem::create_symlink(saved + '5', disk / "Links/savegame.5");
   Copy({five}, "Links", false, CopyMode::kMove);
-  EXPECT_EQ(world.disk.Read("Links/savegame.5"), SavegameBytes("Archive/Slot1", 5, 5));
+  EXPECT_EQ(disk.Read("Links/savegame.5"), SavegameBytes("Archive/Slot1", 5, 5));
 }
 
-TEST_F(CopySavegamesTest, ASavegameThatIsListedTwiceIsMovedOnce) {
-  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
-  std::filesystem::create_symlink("Slot1", world.disk.path() / "Archive/Same");
+TEST_F(LinkedFolderTest, ASavegameThatIsListedTwiceIsMovedOnce) {
   const SavegameFiles again = Files("archive\\same", 2);
   const SelectedCopies copies = Copy({two, again, two}, "Target", true, CopyMode::kMove);
   EXPECT_TRUE(copies.not_copied.empty() && copies.not_deleted.empty());
   ExpectWhole("Target", 0, "Archive/Slot1", 2);
-  EXPECT_EQ(world.disk.Names("Target").size(), 3U);
+  EXPECT_EQ(disk.Names("Target").size(), 3U);
 }
 
 TEST_F(CopySavegamesTest, TheCopyOfAnotherIsNotTakenForAMissingSavegame) {
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/savegame.2");
-  world.disk.Write("Archive/Slot1/savegame.0", "zero");
-  world.disk.Write("Archive/Slot1/savegame.1", "one");
+  disk.Remove({"Archive/Slot1/savegame.2"});
+  disk.Write("Archive/Slot1/savegame.0", "zero");
+  disk.Write("Archive/Slot1/savegame.1", "one");
   const SelectedCopies copies = Copy({other_five, two}, "Archive\\Slot1", true, CopyMode::kMove);
   ExpectWhole("Archive/Slot1", 2, "Archive/Slot2", 5);
   ASSERT_EQ(copies.not_copied.size(), 1U);
   EXPECT_EQ(copies.not_copied[0].path, two.savegame);
-  EXPECT_EQ(world.disk.Read("Program/rescued/1/note2.txt"), "note of Archive/Slot12");
+  EXPECT_EQ(disk.Read("Program/rescued/1/note2.txt"), "note of Archive/Slot12");
 }
 
 TEST_F(CopySavegamesTest, WhatChangesDuringAMoveIsNotDeleted) {
-  world.files.meanwhile = [&](const std::string& operation) {
-    if (operation == "Flush") world.disk.Write("Archive/Slot1/note2.txt", "a newer note");
+  files.meanwhile = [&](const std::string& operation) {
+    if (operation == "Flush") disk.Write("Archive/Slot1/note2.txt", "a newer note");
   };
   const SelectedCopies copies = Copy({two, five}, "Target", false, CopyMode::kMove);
   EXPECT_EQ(copies.not_deleted.size(), 3U);
-  EXPECT_EQ(world.disk.Names("Archive/Slot1"),
-            (std::vector<std::string>{"note2.txt", "savegame.2", "shot2.jpg"}));
+  EXPECT_EQ(disk.Listed("Archive/Slot1"), "note2.txt|savegame.2|shot2.jpg|");
 }
 
 TEST_F(CopySavegamesTest, NothingIsDeletedWhenTheDiskDoesNotConfirm) {
-  world.files.FailAlways("Flush", "", FileError::kInputOutput);
+  files.FailAlways("Flush", "", FileError::kInputOutput);
   EXPECT_EQ(Copy({two, five}, "Target", false, CopyMode::kMove).not_deleted.size(), 6U);
   ExpectWhole("Archive/Slot1", 2, "Archive/Slot1", 2);
   EXPECT_EQ(Copy({two}, "Archive\\Slot1", true, CopyMode::kMove).not_deleted.size(), 3U);

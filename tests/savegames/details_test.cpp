@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "savegames/list_line.h"
-#include "support/test_world.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
-using testing::TestWorld;
+using testing::OpenWorld;
 using Field = MainWindow::Field;
 
 SavegameEntry Entry(std::int16_t folder, std::int16_t counter, const std::string& level,
@@ -42,7 +42,7 @@ TEST(ListLineTest, WideValuesNeverShiftTheColumns) {
   }
 }
 
-class DetailsTest : public ::testing::Test {
+class DetailsTest : public ::testing::Test, public OpenWorld {
  protected:
   DetailsTest() {
     program.paths.DefaultShotPath = "T:\\Program\\default_shot.jpg";
@@ -52,48 +52,38 @@ class DetailsTest : public ::testing::Test {
       entry.ShotPath = "T:\\Archive\\Slot1\\shot" + std::to_string(i) + ".jpg";
       program.catalogue.entries.push_back(entry);
     }
-    world.disk.Write("Archive/Slot1/SHOT2.JPG", "x");
+    disk.Write("Archive/Slot1/SHOT2.JPG", "x");
   }
-
-  TestWorld world;
-  Program program = world.NewProgram();
 };
 
-TEST_F(DetailsTest, ShowTheOneSelectedSavegame) {
-  SelectOnly(program, 2);
-  EXPECT_EQ(program.selection.indices, std::vector<std::int16_t>{2});
-  EXPECT_EQ(world.windows.fields[Field::kPathSavegame], "t:\\archive\\slot1\\savegame.2");
-  EXPECT_EQ(world.windows.fields[Field::kNote], "one\r\ntwo");
-  EXPECT_EQ(world.windows.picture, "T:\\Archive\\Slot1\\shot2.jpg");
-
-  SelectOnly(program, 1);
-  EXPECT_EQ(world.windows.picture, "T:\\Program\\default_shot.jpg");
-}
-
-TEST_F(DetailsTest, ShowTheCountOfSeveralAndKeepThePicture) {
-  SelectOnly(program, 2);
-  world.windows.selected = {0, 2, 3};
-  RefreshDetails(program);
-  EXPECT_EQ(program.selection.indices, (std::vector<std::int16_t>{0, 2, 3}));
-  EXPECT_EQ(world.windows.fields[Field::kPathSavegame], "Selected  3 savegames");
-  EXPECT_EQ(world.windows.fields[Field::kNote], "");
-  EXPECT_EQ(program.details.CurrentShotPath, "T:\\Archive\\Slot1\\shot2.jpg");
-}
-
-TEST_F(DetailsTest, KeepNoteAndPictureWhenNothingIsSelected) {
-  SelectOnly(program, 2);
-  world.windows.selected = {};
-  RefreshDetails(program);
-  EXPECT_EQ(world.windows.fields[Field::kPathSavegame], "");
-  EXPECT_EQ(world.windows.fields[Field::kNote], "one\r\ntwo");
-  EXPECT_EQ(world.windows.picture, "T:\\Archive\\Slot1\\shot2.jpg");
-}
-
-TEST_F(DetailsTest, TheViewerShowsTheCurrentPicture) {
+TEST_F(DetailsTest, ShowTheOneSelectedSavegameAndItsPictureInTheViewer) {
   SelectOnly(program, 2);
   ShowScreenShot(program);
+  EXPECT_EQ(program.selection.indices, std::vector<std::int16_t>{2});
+  EXPECT_EQ(windows.fields[Field::kPathSavegame], "t:\\archive\\slot1\\savegame.2");
+  EXPECT_EQ(windows.fields[Field::kNote], "one\r\ntwo");
+  EXPECT_EQ(windows.picture, "T:\\Archive\\Slot1\\shot2.jpg");
   EXPECT_TRUE(program.details.ViewerOpen);
-  EXPECT_EQ(world.windows.viewer, "T:\\Archive\\Slot1\\shot2.jpg");
+  EXPECT_EQ(windows.viewer, "T:\\Archive\\Slot1\\shot2.jpg");
+
+  SelectOnly(program, 1);
+  EXPECT_EQ(windows.picture, "T:\\Program\\default_shot.jpg");
+}
+
+TEST_F(DetailsTest, KeepThePictureOfTheLastOneWhenSeveralOrNoneAreSelected) {
+  SelectOnly(program, 2);
+  windows.selected = {};
+  RefreshDetails(program);
+  EXPECT_EQ(windows.fields[Field::kPathSavegame], "");
+  EXPECT_EQ(windows.fields[Field::kNote], "one\r\ntwo");
+  EXPECT_EQ(windows.picture, "T:\\Archive\\Slot1\\shot2.jpg");
+
+  windows.selected = {0, 2, 3};
+  RefreshDetails(program);
+  EXPECT_EQ(program.selection.indices, (std::vector<std::int16_t>{0, 2, 3}));
+  EXPECT_EQ(windows.fields[Field::kPathSavegame], "Selected  3 savegames");
+  EXPECT_EQ(windows.fields[Field::kNote], "");
+  EXPECT_EQ(program.details.CurrentShotPath, "T:\\Archive\\Slot1\\shot2.jpg");
 }
 
 }  // namespace

@@ -5,25 +5,27 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "savegames/details.h"
-#include "support/test_world.h"
+#include "support/expectations.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
+using testing::Contains;
+using testing::OpenWorld;
 using testing::SavegameBytes;
-using testing::TestWorld;
 
 bool IsPicture(std::string_view bytes) { return bytes.starts_with("picture"); }
 
 // Two savegames in the list; the second is the one that is worked on.
-class SavegamePropertiesTest : public ::testing::Test {
+class SavegamePropertiesTest : public ::testing::Test, public OpenWorld {
  protected:
   static constexpr int kIndex = 1;
 
   SavegamePropertiesTest() {
-    world.AddSavegame("Archive", 3, "Tower", 12);
-    world.disk.Write("Archive/note3.txt", "old\x8D\nnote\r\n");
-    world.windows.lines = {"other", ""};
+    AddSavegame("Archive", 3, "Tower", 12);
+    disk.Write("Archive/note3.txt", "old\x8D\nnote\r\n");
+    windows.lines = {"other", ""};
     program.catalogue.entries.resize(2);
     entry().LevelName = "Tower";
     entry().InternalCounter = 12;
@@ -33,11 +35,10 @@ class SavegamePropertiesTest : public ::testing::Test {
     entry().NotePath = "T:\\Archive\\note3.txt";
     entry().ShotPath = "T:\\Archive\\shot3.jpg";
     SelectOnly(program, kIndex);
-    program.preferences.SoundEffects = true;
   }
 
   SavegameEntry& entry() { return program.catalogue.entries[kIndex]; }
-  const std::string& LastBox() const { return world.boxes.shown.back().text; }
+  const std::string& LastBox() const { return boxes.shown.back().text; }
 
   ChangesAnswer Apply(const std::string& counter, std::optional<TypedNote> note = {},
                       bool remove_shot = false) {
@@ -49,12 +50,9 @@ class SavegamePropertiesTest : public ::testing::Test {
   }
 
   bool Choose(const std::string& file) {
-    world.dialogs.answers = {file};
+    dialogs.answers = {file};
     return ChooseScreenShot(program, kIndex, IsPicture);
   }
-
-  TestWorld world;
-  Program program = world.NewProgram();
 };
 
 TEST_F(SavegamePropertiesTest, OpenForExactlyOneSelectedSavegame) {
@@ -62,12 +60,10 @@ TEST_F(SavegamePropertiesTest, OpenForExactlyOneSelectedSavegame) {
   for (const std::vector<std::int16_t>& selected : {std::vector<std::int16_t>{}, {0, 1}}) {
     program.selection.indices = selected;
     ShowSavegameProperties(program);
-    EXPECT_EQ(LastBox(), LoadMessage(271));
-    EXPECT_EQ(world.boxes.shown.back().icon, BoxIcon::kCritical);
-    EXPECT_TRUE(world.sounds.played.back().ends_with("s5.wav"));
+    EXPECT_EQ(TakeRefusal(), LoadMessage(271));
   }
-  ASSERT_EQ(world.windows.events.size(), 1U);
-  EXPECT_EQ(world.windows.events[0].second, WindowId::kDialogNote);
+  ASSERT_EQ(windows.events.size(), 1U);
+  EXPECT_EQ(windows.events[0].second, WindowId::kDialogNote);
 }
 
 TEST_F(SavegamePropertiesTest, ShowCounterAndLevelWithThePlaceOfTheSign) {
@@ -75,127 +71,127 @@ TEST_F(SavegamePropertiesTest, ShowCounterAndLevelWithThePlaceOfTheSign) {
   EXPECT_EQ(PrepareSavegameProperties(program).level, " 12  Tower");
   EXPECT_EQ(PrepareSavegameProperties(program).shot, "");
   entry().InternalCounter = -3;
-  world.disk.Write("Archive/SHOT3.JPG", "picture");
+  disk.Write("Archive/SHOT3.JPG", "picture");
   EXPECT_EQ(PrepareSavegameProperties(program).level, "-3  Tower");
   EXPECT_EQ(PrepareSavegameProperties(program).shot, "T:\\Archive\\shot3.jpg");
-  EXPECT_TRUE(world.sounds.played.back().ends_with("s7.wav"));
+  EXPECT_TRUE(sounds.Take().ends_with("s7|"));
 }
 
 TEST_F(SavegamePropertiesTest, OkWithoutAChangeWritesTheNoteAgainAndNotTheSavegame) {
-  const auto before = world.disk.AllFiles();
-  world.files.FailAlways("WriteAt", "", FileError::kInputOutput);
+  const auto before = disk.AllFiles();
+  files.FailAlways("WriteAt", "", FileError::kInputOutput);
   EXPECT_EQ(Apply(" 12"), ChangesAnswer::kDone);
-  EXPECT_EQ(world.disk.AllFiles(), before);
+  EXPECT_EQ(disk.AllFiles(), before);
   EXPECT_TRUE(program.archive.ArchiveChanged);
 
   entry().NoteText.clear();
-  std::filesystem::remove(world.disk.path() / "Archive/note3.txt");
+  disk.Remove({"Archive/note3.txt"});
   EXPECT_EQ(Apply("abc"), ChangesAnswer::kDone);
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "\r\n");
-  EXPECT_TRUE(world.boxes.shown.empty());
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), "\r\n");
+  EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(SavegamePropertiesTest, ANoteThatTheUserHasNotChangedDoesNotUndoANewerOne) {
-  world.disk.Write("Archive/note3.txt", "newer\r\n");
+  disk.Write("Archive/note3.txt", "newer\r\n");
   EXPECT_EQ(Apply("12"), ChangesAnswer::kDone);
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "newer\r\n");
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), "newer\r\n");
 
   EXPECT_EQ(Apply("12", TypedNote{.stored = "typed"}), ChangesAnswer::kDone);
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "typed\r\n");
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt.bak"), "newer\r\n") << "the user has not seen it";
-  EXPECT_EQ(LastBox(), LoadMessage(kUnseenNoteKept, {"\"T:\\Archive\\note3.txt.bak\""}));
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), "typed\r\n");
+  EXPECT_EQ(disk.Read("Archive/note3.txt.bak"), "newer\r\n") << "the user has not seen it";
+  EXPECT_EQ(boxes.shown.back().text,
+            LoadMessage(kUnseenNoteKept, {"\"T:\\Archive\\note3.txt.bak\""}));
 }
 
 TEST_F(SavegamePropertiesTest, OkKeepsFilesListAndDetailsInStep) {
-  world.disk.Write("Archive/SHOT3.JPG", "picture");
-  world.windows.selected = {0};
+  disk.Write("Archive/SHOT3.JPG", "picture");
+  windows.selected = {0};
   EXPECT_EQ(Apply("300", TypedNote{.stored = "new\x8D\ntext"}, true), ChangesAnswer::kDone);
-  EXPECT_TRUE(world.boxes.shown.empty());
-  EXPECT_EQ(world.disk.Read("Archive/savegame.3"),
+  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_EQ(disk.Read("Archive/savegame.3"),
             SavegameBytes("Tower", 12, 3).replace(75, 2, "\x2C\x01"));
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "new\x8D\ntext\r\n");
-  EXPECT_FALSE(world.disk.Exists("Archive/SHOT3.JPG"));
-  EXPECT_EQ(world.windows.lines[0], "other");
-  EXPECT_EQ(world.windows.lines[kIndex], "    300 Tower" + std::string(24, ' ') + "new\x8D\ntext");
-  EXPECT_EQ(world.windows.selected, std::vector<int>{kIndex});
-  EXPECT_EQ(world.windows.fields[MainWindow::Field::kNote], "new\r\ntext");
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), "new\x8D\ntext\r\n");
+  EXPECT_FALSE(disk.Exists("Archive/SHOT3.JPG"));
+  EXPECT_EQ(windows.lines[0], "other");
+  EXPECT_EQ(windows.lines[kIndex], "    300 Tower" + std::string(24, ' ') + "new\x8D\ntext");
+  EXPECT_EQ(windows.selected, std::vector<int>{kIndex});
+  EXPECT_EQ(windows.fields[MainWindow::Field::kNote], "new\r\ntext");
 
   EXPECT_EQ(Apply("-1", {}, true), ChangesAnswer::kDone);
-  EXPECT_EQ(world.disk.Read("Archive/savegame.3").substr(75, 2), "\xFF\xFF");
+  EXPECT_EQ(disk.Read("Archive/savegame.3").substr(75, 2), "\xFF\xFF");
   EXPECT_EQ(LastBox(), LoadMessage(162));
-  EXPECT_EQ(world.boxes.shown.back().icon, BoxIcon::kNone);
+  EXPECT_EQ(boxes.shown.back().icon, BoxIcon::kNone);
 }
 
 TEST_F(SavegamePropertiesTest, ARefusedOkWritesNothing) {
-  const auto before = world.disk.AllFiles();
+  const auto before = disk.AllFiles();
   EXPECT_EQ(Apply("32768", TypedNote{.stored = "new"}, true), ChangesAnswer::kRefused);
-  EXPECT_EQ(LastBox(), LoadMessage(kCounterOutOfRange));
-  EXPECT_TRUE(world.sounds.played.back().ends_with("s5.wav"));
-  const TypedNote note = NoteFromTextBox(world.text, "\u0416 \U0001F600 \u00E9");
+  EXPECT_EQ(TakeRefusal(), LoadMessage(kCounterOutOfRange));
+  const TypedNote note = NoteFromTextBox(text, "\u0416 \U0001F600 \u00E9");
   EXPECT_EQ(Apply("5", note, true), ChangesAnswer::kRefused);
-  EXPECT_EQ(LastBox(), LoadMessage(kNoteCharacters, {"U+0416, U+1F600"}));
-  EXPECT_EQ(world.disk.AllFiles(), before);
+  EXPECT_EQ(TakeRefusal(), LoadMessage(kNoteCharacters, {"U+0416, U+1F600"}));
+  EXPECT_EQ(disk.AllFiles(), before);
   EXPECT_FALSE(program.archive.ArchiveChanged);
   EXPECT_EQ(entry().NoteText, "old\x8D\nnote");
 }
 
 TEST_F(SavegamePropertiesTest, FilesThatCannotBeChangedAreToldOnceAndTheRestIsDone) {
-  world.disk.Write("Archive/shot3.jpg", "picture");
-  world.disk.MakeReadOnly("Archive/savegame.3");
-  world.disk.MakeReadOnly("Archive/shot3.jpg");
+  disk.Write("Archive/shot3.jpg", "picture");
+  disk.MakeReadOnly("Archive/savegame.3");
+  disk.MakeReadOnly("Archive/shot3.jpg");
   EXPECT_EQ(Apply("13", TypedNote{.stored = "new"}, true), ChangesAnswer::kDone);
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_NE(LastBox().find("savegame.3"), std::string::npos);
-  EXPECT_NE(LastBox().find("shot3.jpg"), std::string::npos);
-  EXPECT_EQ(world.windows.lines[kIndex], " I   12 Tower" + std::string(24, ' ') + "new");
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "new\r\n");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(LastBox(), "savegame.3"));
+  EXPECT_TRUE(Contains(LastBox(), "shot3.jpg"));
+  EXPECT_EQ(windows.lines[kIndex], " I   12 Tower" + std::string(24, ' ') + "new");
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), "new\r\n");
 }
 
 TEST_F(SavegamePropertiesTest, ANoteThatCannotBeWrittenIsKeptByTheDialogAndTheOldOneByTheDisk) {
-  world.disk.MakeReadOnly("Archive/note3.txt");
+  disk.MakeReadOnly("Archive/note3.txt");
   EXPECT_EQ(Apply("13", TypedNote{.stored = "new"}), ChangesAnswer::kNoteNotWritten);
   EXPECT_TRUE(LastBox().ends_with(LoadMessage(kNoteStillShown)));
   EXPECT_EQ(entry().NoteText, "old\x8D\nnote");
-  EXPECT_EQ(world.disk.Read("Archive/note3.txt"), "old\x8D\nnote\r\n");
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), "old\x8D\nnote\r\n");
   EXPECT_EQ(entry().InternalCounter, 13);
   EXPECT_EQ(Apply("13"), ChangesAnswer::kDone) << "nothing of a note as it was can be lost";
 }
 
 TEST_F(SavegamePropertiesTest, AChosenPictureIsCopiedAtOnce) {
-  world.disk.Write("Shots/a.jpg", "picture a");
-  world.disk.Write("Archive/SHOT3.JPG", "picture before");
+  disk.Write("Shots/a.jpg", "picture a");
+  disk.Write("Archive/SHOT3.JPG", "picture before");
   program.preferences.ShotFolder = " T:\\Shots ";
   EXPECT_TRUE(Choose("T:\\Shots\\a.jpg"));
-  EXPECT_EQ(world.disk.Read("Archive/SHOT3.JPG"), "picture a");
-  EXPECT_EQ(world.dialogs.requests.back().start_folder, "T:\\Shots");
-  EXPECT_EQ(world.windows.lines[kIndex], "");
+  EXPECT_EQ(disk.Read("Archive/SHOT3.JPG"), "picture a");
+  EXPECT_EQ(dialogs.requests.back().start_folder, "T:\\Shots");
+  EXPECT_EQ(windows.lines[kIndex], "");
 
   program.preferences.ShotFolder = "T:\\Shots\\a.jpg";
   EXPECT_TRUE(Choose("T:\\Archive\\shot3.jpg")) << "the screen-shot itself";
-  EXPECT_EQ(world.dialogs.requests.back().start_folder, "T:\\Shots");
-  EXPECT_EQ(world.disk.Read("Archive/SHOT3.JPG"), "picture a");
+  EXPECT_EQ(dialogs.requests.back().start_folder, "T:\\Shots");
+  EXPECT_EQ(disk.Read("Archive/SHOT3.JPG"), "picture a");
   EXPECT_FALSE(ChooseScreenShot(program, kIndex, IsPicture)) << "the user cancels";
-  EXPECT_TRUE(world.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(SavegamePropertiesTest, TheScreenShotOutlivesAWrongChoiceAndAFailedCopy) {
-  world.disk.Write("Shots/a.jpg", "text");
-  world.disk.Write("Archive/shot3.jpg", "picture");
-  const auto before = world.disk.AllFiles();
-  world.boxes.answers = {BoxAnswer::kNo};
+  disk.Write("Shots/a.jpg", "text");
+  disk.Write("Archive/shot3.jpg", "picture");
+  const auto before = disk.AllFiles();
+  boxes.answers = {BoxAnswer::kNo};
   EXPECT_FALSE(Choose("T:\\Shots\\a.jpg"));
   EXPECT_EQ(LastBox(), LoadMessage(kNoPicture, {"\"T:\\Shots\\a.jpg\""}));
 
   EXPECT_FALSE(Choose("T:\\Shots\\gone.jpg"));
   EXPECT_EQ(LastBox(), LoadMessage(165, {"T:\\Shots\\gone.jpg"}) + "T:\\Archive\\shot3.jpg");
-  EXPECT_EQ(world.boxes.shown.back().icon, BoxIcon::kCritical);
-  world.files.FailAlways("Copy", "a.jpg", FileError::kDiskFull);
+  EXPECT_EQ(boxes.shown.back().icon, BoxIcon::kCritical);
+  files.FailAlways("Copy", "a.jpg", FileError::kDiskFull);
   EXPECT_FALSE(Choose("T:\\Shots\\a.jpg"));
-  EXPECT_EQ(world.disk.AllFiles(), before);
+  EXPECT_EQ(disk.AllFiles(), before);
 
-  world.files.Reset();
+  files.Reset();
   EXPECT_TRUE(Choose("T:\\Shots\\a.jpg"));
-  EXPECT_EQ(world.disk.Read("Archive/shot3.jpg"), "text");
+  EXPECT_EQ(disk.Read("Archive/shot3.jpg"), "text");
 }
 
 TEST(NoteFromTextBoxTest, KeepsWhatANoteCanHoldAndNamesWhatItCannot) {

@@ -2,20 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include "archive/scan.h"
-#include "support/test_world.h"
+#include "support/open_world.h"
 
 namespace vellumark {
 namespace {
 
-using testing::TestWorld;
+using testing::OpenWorld;
 using Field = MainWindow::Field;
 using Indices = std::vector<std::int16_t>;
 
-class SearchTest : public ::testing::Test {
+class SearchTest : public ::testing::Test, public OpenWorld {
  protected:
-  SearchTest() { program.preferences.SoundEffects = true; }
-
   void Add(const std::string& level, const std::string& note = "") {
     const std::string number = std::to_string(program.catalogue.entries.size());
     SavegameEntry entry;
@@ -28,38 +25,24 @@ class SearchTest : public ::testing::Test {
 
   // What a search for a text (UTF-8) finds; it must agree with what the program says.
   Indices Found(const std::string& utf8, bool with_note = false, bool with_shot = false) {
-    world.boxes.shown.clear();
+    boxes.shown.clear();
     const bool found = RunSearch(program, {program.text.FromUtf8(utf8), with_note, with_shot});
     EXPECT_EQ(found, !program.search.FoundList.empty());
-    EXPECT_EQ(world.boxes.AllTexts(), found ? "" : "No savegame found\n");
+    EXPECT_EQ(boxes.AllTexts(), found ? "" : "No savegame found\n");
     return program.search.FoundList;
   }
 
-  // The files of the sounds since the last call; their numbers count from 1.
-  std::string TakeSounds() {
-    std::string names;
-    for (const std::string& path : world.sounds.played)
-      names += path.substr(path.find_last_of("/\\") + 1);
-    world.sounds.played.clear();
-    return names;
-  }
-  std::string Position() { return world.windows.fields[Field::kTrovati]; }
-
-  TestWorld world;
-  Program program = world.NewProgram();
+  std::string Position() { return windows.fields[Field::kTrovati]; }
 };
 
 TEST_F(SearchTest, AnEmptyCatalogueIsNotSearched) {
   OpenSearch(program);
-  EXPECT_EQ(TakeSounds(), "s5.wav");
-  ASSERT_EQ(world.boxes.shown.size(), 1U);
-  EXPECT_EQ(world.boxes.shown[0].text, "No savegame in archive\rYou must perform a scanning");
-  EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::kCritical);
-  EXPECT_TRUE(world.windows.events.empty());
+  EXPECT_EQ(TakeRefusal(), "No savegame in archive\rYou must perform a scanning");
+  EXPECT_TRUE(windows.events.empty());
 
   Add("Tower");
   OpenSearch(program);
-  EXPECT_EQ(world.windows.events.back(),
+  EXPECT_EQ(windows.events.back(),
             (std::pair<std::string, WindowId>("modal", WindowId::kDialogCerca)));
 }
 
@@ -69,11 +52,11 @@ TEST_F(SearchTest, AnEmptyTextFindsEverySavegame) {
   Add("Iris", "note");
   program.preferences.SearchInLevelName = program.preferences.SearchInNotes = false;
   EXPECT_EQ(Found(""), (Indices{0, 1, 2}));
-  EXPECT_EQ(world.windows.selected, std::vector<int>{0});
+  EXPECT_EQ(windows.selected, std::vector<int>{0});
   EXPECT_EQ(Position(), " 1/3");
-  EXPECT_EQ(world.windows.events.back(),
+  EXPECT_EQ(windows.events.back(),
             (std::pair<std::string, WindowId>("close", WindowId::kDialogCerca)));
-  EXPECT_EQ(TakeSounds(), "");
+  EXPECT_EQ(sounds.Take(), "");
 }
 
 TEST_F(SearchTest, TheTextIsLookedForWhereThePreferencesSay) {
@@ -100,7 +83,7 @@ TEST_F(SearchTest, LettersOfTheCodePageHaveNoCase) {
   EXPECT_EQ(Found("été"), (Indices{0, 1}));
   EXPECT_EQ(Found("ÉTÉ"), (Indices{0, 1}));
 
-  world.text = CodePageText(1251, "ru", false);
+  text = CodePageText(1251, "ru", false);
   Add("", "\xC7\xC0\xCC\xCE\xCA");
   EXPECT_EQ(Found("замок"), Indices{3});
 }
@@ -114,33 +97,30 @@ TEST_F(SearchTest, ACharacterThatTheCodePageLacksFindsNothing) {
 
 // In some code pages the byte of a note's line break is a letter as well.
 TEST_F(SearchTest, ALineBreakOfANoteIsNoLetter) {
-  struct Case {
-    int code_page;
-    const char* letter;
-    const char* other_case;
-  };
   Add("a\x8Dz", "z");
   Add("az", "a\x8D\nz");
-  for (const Case& each : {Case{1250, "Ť", "ť"}, Case{1251, "Ќ", "ќ"}, Case{1256, "چ", "چ"}}) {
-    SCOPED_TRACE(each.code_page);
-    world.text = CodePageText(each.code_page, "", false);
-    EXPECT_EQ(Found(each.letter), Indices{0});
-    EXPECT_EQ(Found(each.other_case), Indices{0});
+  const std::tuple<int, const char*, const char*> letters[] = {
+      {1250, "Ť", "ť"}, {1251, "Ќ", "ќ"}, {1256, "چ", "چ"}};
+  for (const auto& [code_page, letter, other_case] : letters) {
+    SCOPED_TRACE(code_page);
+    text = CodePageText(code_page, "", false);
+    EXPECT_EQ(Found(letter), Indices{0});
+    EXPECT_EQ(Found(other_case), Indices{0});
     EXPECT_EQ(Found("\nZ"), Indices{1});
   }
 }
 
 TEST_F(SearchTest, TheFiltersLookAtTheFilesOfTheMoment) {
   for (int i = 0; i < 4; ++i) Add("Level");
-  world.disk.Write("Archive/Slot1/NOTE1.TXT", "\r\n");
-  world.disk.Write("Archive/Slot1/shot2.jpg", "x");
-  world.disk.MakeFolder("Archive/Slot1/note3.txt");
+  disk.Write("Archive/Slot1/NOTE1.TXT", "\r\n");
+  disk.Write("Archive/Slot1/shot2.jpg", "x");
+  disk.MakeFolder("Archive/Slot1/note3.txt");
   EXPECT_EQ(Found("", true, false), Indices{1});
   EXPECT_EQ(Found("", false, true), Indices{2});
   EXPECT_EQ(Found("", true, true), (Indices{1, 2}));
   EXPECT_EQ(Found("none", true, true), Indices{});
 
-  std::filesystem::remove(world.disk.path() / "Archive/Slot1/NOTE1.TXT");
+  disk.Remove({"Archive/Slot1/NOTE1.TXT"});
   EXPECT_EQ(Found("", true, false), Indices{});
 }
 
@@ -148,14 +128,14 @@ TEST_F(SearchTest, SteppingEndsAtBothEnds) {
   for (const char* level : {"x", "Tower", "x", "Tower", "Tower"}) Add(level);
   Found("tower");
   ShowNextFound(program);
-  world.windows.selected = {0};  // steps go on from the savegame found last
+  windows.selected = {0};  // steps go on from the savegame found last
   ShowNextFound(program);
   EXPECT_EQ(Position(), " 3/3");
   EXPECT_EQ(program.selection.indices, Indices{4});
-  EXPECT_EQ(TakeSounds(), "");
+  EXPECT_EQ(sounds.Take(), "");
 
   ShowNextFound(program);
-  EXPECT_EQ(TakeSounds(), "s5.wav");
+  EXPECT_EQ(sounds.Take(), "s5|");
   EXPECT_EQ(Position(), " 3/3");
   ShowPreviousFound(program);
   EXPECT_EQ(Position(), " 2/3");
@@ -163,7 +143,7 @@ TEST_F(SearchTest, SteppingEndsAtBothEnds) {
   ShowPreviousFound(program);
   ShowPreviousFound(program);
   EXPECT_EQ(Position(), " 1/3");
-  EXPECT_EQ(TakeSounds(), "s5.wav");
+  EXPECT_EQ(sounds.Take(), "s5|");
 }
 
 TEST_F(SearchTest, AFailedSearchOrARescanLeavesNothingToStepThrough) {
@@ -171,11 +151,11 @@ TEST_F(SearchTest, AFailedSearchOrARescanLeavesNothingToStepThrough) {
   Add("Tower");
   for (const bool rescans : {false, true}) {
     Found("tower");
-    rescans ? ScanArchive(program) : static_cast<void>(Found("nothing"));
-    TakeSounds();
+    rescans ? Rescan() : static_cast<void>(Found("nothing"));
+    sounds.Take();
     ShowNextFound(program);
     ShowPreviousFound(program);
-    EXPECT_EQ(TakeSounds(), "s5.wavs5.wav");
+    EXPECT_EQ(sounds.Take(), "s5|s5|");
     EXPECT_EQ(Position(), " 1/2");
   }
 }

@@ -5,50 +5,32 @@
 namespace vellumark::testing {
 namespace {
 
-Listing FailedListing(FileError error) { return {error, {}, {}}; }
-
-ReadResult FailedRead(FileError error) { return {error, {}}; }
-
-class FailedReader final : public FolderReader {
- public:
-  explicit FailedReader(FileError error) : listing_(FailedListing(error)) {}
-
-  const Listing& Contents() const override { return listing_; }
-  ReadResult Read(const FolderEntry& /*entry*/, std::size_t /*limit*/) override {
-    return FailedRead(listing_.error);
-  }
-  std::unique_ptr<FolderReader> OpenFolder(const FolderEntry& /*entry*/) override {
-    return std::make_unique<FailedReader>(listing_.error);
-  }
-
- private:
-  Listing listing_;
-};
-
-std::unique_ptr<FolderReader> MakeFailedReader(FileError error) {
-  return std::make_unique<FailedReader>(error);
-}
-
+// Without a real reader, every call fails with the error of its listing.
 class FaultyReader final : public FolderReader {
  public:
-  FaultyReader(FaultyFileSystem& files, std::unique_ptr<FolderReader> real)
-      : files_(files), real_(std::move(real)) {}
+  FaultyReader(FaultyFileSystem& files, std::unique_ptr<FolderReader> real, FileError error)
+      : files_(files), real_(std::move(real)) {
+    failed_.error = error;
+  }
 
-  const Listing& Contents() const override { return real_->Contents(); }
+  const Listing& Contents() const override {
+    return real_ == nullptr ? failed_ : real_->Contents();
+  }
   ReadResult Read(const FolderEntry& entry, std::size_t limit) override {
-    return files_.Pass<ReadResult>(
-        "Read", entry.name, [&] { return real_->Read(entry, limit); }, FailedRead);
+    if (real_ == nullptr) return {failed_.error, {}};
+    return files_.Pass("Read", entry.name, [&] { return real_->Read(entry, limit); });
   }
   std::unique_ptr<FolderReader> OpenFolder(const FolderEntry& entry) override {
-    return files_.Pass<std::unique_ptr<FolderReader>>(
-        "OpenFolder", entry.name,
-        [&] { return std::make_unique<FaultyReader>(files_, real_->OpenFolder(entry)); },
-        MakeFailedReader);
+    const FileError error =
+        real_ == nullptr ? failed_.error : files_.Count("OpenFolder", entry.name);
+    auto inner = error == FileError::kNone ? real_->OpenFolder(entry) : nullptr;
+    return std::make_unique<FaultyReader>(files_, std::move(inner), error);
   }
 
  private:
   FaultyFileSystem& files_;
   std::unique_ptr<FolderReader> real_;
+  Listing failed_;
 };
 
 }  // namespace
@@ -58,10 +40,7 @@ void FaultyFileSystem::FailCall(int call, FileError error) {
   error_ = error;
 }
 
-void FaultyFileSystem::KillAtCall(int call, bool after) {
-  kill_at_ = calls_ + call;
-  kill_after_ = after;
-}
+void FaultyFileSystem::KillAtCall(int call) { kill_at_ = calls_ + call; }
 
 void FaultyFileSystem::FailAlways(const std::string& operation, const std::string& path_ending,
                                   FileError error) {
@@ -75,120 +54,18 @@ void FaultyFileSystem::Reset() {
   fail_operation_.clear();
 }
 
-template <typename Result>
-Result FaultyFileSystem::Pass(const std::string& operation, const std::string& path,
-                              const std::function<Result()>& run,
-                              const std::function<Result(FileError)>& failure) {
-  ++calls_;
-  const bool dies = calls_ == kill_at_;
-  if (dies && !kill_after_) throw Killed();
-  if (meanwhile) meanwhile(operation);
-  if (calls_ == fail_at_ || (operation == fail_operation_ && path.ends_with(fail_ending_))) {
-    return failure(error_);
-  }
-  Result result = run();
-  if (dies) throw Killed();
-  return result;
-}
-
-FileError FaultyFileSystem::Pass(const std::string& operation, const std::string& path,
-                                 const std::function<FileError()>& run) {
-  return Pass<FileError>(operation, path, run, [](FileError error) { return error; });
-}
-
-AttributesResult FaultyFileSystem::Attributes(const std::string& path) {
-  return Pass<AttributesResult>(
-      "Attributes", path, [&] { return real_.Attributes(path); },
-      [](FileError error) {
-        return AttributesResult{error, {}};
-      });
-}
-
-Listing FaultyFileSystem::List(const std::string& pattern) {
-  return Pass<Listing>(
-      "List", pattern, [&] { return real_.List(pattern); }, FailedListing);
-}
-
 std::unique_ptr<FolderReader> FaultyFileSystem::OpenFolder(const std::string& folder) {
-  return Pass<std::unique_ptr<FolderReader>>(
-      "OpenFolder", folder,
-      [&] { return std::make_unique<FaultyReader>(*this, real_.OpenFolder(folder)); },
-      MakeFailedReader);
+  const FileError error = Count("OpenFolder", folder);
+  auto reader = error == FileError::kNone ? real_.OpenFolder(folder) : nullptr;
+  return std::make_unique<FaultyReader>(*this, std::move(reader), error);
 }
 
-ReadResult FaultyFileSystem::Read(const std::string& path, std::size_t limit) {
-  return Pass<ReadResult>(
-      "Read", path, [&] { return real_.Read(path, limit); }, FailedRead);
-}
-
-std::optional<FileIdentity> FaultyFileSystem::Identity(const std::string& path) {
-  return Pass<std::optional<FileIdentity>>(
-      "Identity", path, [&] { return real_.Identity(path); },
-      [](FileError /*error*/) { return std::nullopt; });
-}
-
-FileError FaultyFileSystem::Create(const std::string& path, std::string_view bytes) {
-  return Pass("Create", path, [&] { return real_.Create(path, bytes); });
-}
-
-FileError FaultyFileSystem::Append(const std::string& path, std::string_view bytes) {
-  return Pass("Append", path, [&] { return real_.Append(path, bytes); });
-}
-
-FileError FaultyFileSystem::WriteAt(const std::string& path, std::uint64_t offset,
-                                    std::string_view bytes) {
-  return Pass("WriteAt", path, [&] { return real_.WriteAt(path, offset, bytes); });
-}
-
-FileError FaultyFileSystem::Copy(const std::string& source, const std::string& target) {
-  return Pass("Copy", source, [&] { return real_.Copy(source, target); });
-}
-
-FileError FaultyFileSystem::Flush(const std::vector<std::string>& paths) {
-  return Pass("Flush", "", [&] { return real_.Flush(paths); });
-}
-
-FileError FaultyFileSystem::Rename(const std::string& from, const std::string& to,
-                                   RenameMode mode) {
-  return Pass("Rename", from, [&] { return real_.Rename(from, to, mode); });
-}
-
-FileError FaultyFileSystem::Delete(const std::string& path) {
-  return Pass("Delete", path, [&] { return real_.Delete(path); });
-}
-
-FileError FaultyFileSystem::ClearAttributes(const std::string& path) {
-  return Pass("ClearAttributes", path, [&] { return real_.ClearAttributes(path); });
-}
-
-FileError FaultyFileSystem::CreateFolder(const std::string& path) {
-  return Pass("CreateFolder", path, [&] { return real_.CreateFolder(path); });
-}
-
-FileError FaultyFileSystem::RemoveFolder(const std::string& path) {
-  return Pass("RemoveFolder", path, [&] { return real_.RemoveFolder(path); });
-}
-
-std::string FaultyFileSystem::CurrentFolder() { return real_.CurrentFolder(); }
-
-FileError FaultyFileSystem::SetCurrentFolder(const std::string& folder) {
-  return real_.SetCurrentFolder(folder);
-}
-
-std::vector<Drive> FaultyFileSystem::Drives() { return real_.Drives(); }
-
-std::string FaultyFileSystem::HostPath(const std::string& path) { return real_.HostPath(path); }
-
-std::optional<std::string> FaultyFileSystem::FromHostPath(std::string_view host_path) {
-  return real_.FromHostPath(host_path);
-}
-
-std::string FaultyFileSystem::FromCommandLine(const std::string& typed) {
-  return real_.FromCommandLine(typed);
-}
-
-LockResult FaultyFileSystem::LockFolder(const std::string& folder) {
-  return real_.LockFolder(folder);
+FileError FaultyFileSystem::Count(const std::string& operation, const std::string& path) {
+  if (++calls_ == kill_at_) throw Killed();
+  if (meanwhile) meanwhile(operation);
+  const bool fails =
+      calls_ == fail_at_ || (operation == fail_operation_ && path.ends_with(fail_ending_));
+  return fails ? error_ : FileError::kNone;
 }
 
 }  // namespace vellumark::testing

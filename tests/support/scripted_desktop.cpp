@@ -3,16 +3,6 @@
 #include <utility>
 
 namespace vellumark::testing {
-namespace {
-
-std::optional<std::string> TakeAnswer(std::deque<std::optional<std::string>>& answers) {
-  if (answers.empty()) return std::nullopt;
-  auto answer = std::move(answers.front());
-  answers.pop_front();
-  return answer;
-}
-
-}  // namespace
 
 BoxAnswer ScriptedMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxIcon icon) {
   shown.push_back({text, buttons, icon});
@@ -32,19 +22,20 @@ std::string ScriptedMessageBoxes::AllTexts() const {
   return all;
 }
 
-std::optional<std::string> ScriptedFileDialogs::Open(const FileDialogRequest& request) {
-  requests.push_back(request);
-  return TakeAnswer(answers);
+std::string RecordedSounds::Take() {
+  std::string names;
+  for (const std::string& path : std::exchange(played, {})) {
+    const std::size_t name = path.find_last_of("/\\") + 1;
+    names += path.substr(name, path.rfind('.') - name) + '|';
+  }
+  return names;
 }
 
-std::optional<std::string> ScriptedFileDialogs::Save(const FileDialogRequest& request) {
+std::optional<std::string> ScriptedFileDialogs::Answer(const FileDialogRequest& request) {
   requests.push_back(request);
-  return TakeAnswer(answers);
-}
-
-bool RecordedShell::Open(const std::string& document, const std::string& parameters,
-                         const std::string& working_folder, bool hidden) {
-  opened.push_back({document, parameters, working_folder, hidden});
+  if (answers.empty()) return std::nullopt;
+  auto answer = std::move(answers.front());
+  answers.pop_front();
   return answer;
 }
 
@@ -67,15 +58,6 @@ void ScriptedClipboard::Empty() {
   ++emptied;
   content = nullptr;
   if (after_empty) after_empty();
-}
-
-void ScriptedWindows::ShowLines(std::vector<std::string> new_lines) {
-  lines = std::move(new_lines);
-  selected.clear();
-}
-
-void ScriptedWindows::ReplaceLine(int index, const std::string& line) {
-  lines.at(static_cast<std::size_t>(index)) = line;
 }
 
 }  // namespace vellumark::testing

@@ -41,16 +41,27 @@ class ScriptedMessageBoxes final : public MessageBoxes {
 
 class ScriptedFileDialogs final : public FileDialogs {
  public:
-  std::optional<std::string> Open(const FileDialogRequest& request) override;
-  std::optional<std::string> Save(const FileDialogRequest& request) override;
+  std::optional<std::string> Open(const FileDialogRequest& request) override {
+    return Answer(request);
+  }
+  std::optional<std::string> Save(const FileDialogRequest& request) override {
+    return Answer(request);
+  }
 
   std::vector<FileDialogRequest> requests;
   std::deque<std::optional<std::string>> answers;  // without one, the user cancels
+
+ private:
+  std::optional<std::string> Answer(const FileDialogRequest& request);
 };
 
 class RecordedSounds final : public SoundPlayer {
  public:
   void Play(const std::string& host_path) override { played.push_back(host_path); }
+
+  // The names of the files played since the last call, without their extension, with a bar behind
+  // each.
+  std::string Take();
 
   std::vector<std::string> played;
 };
@@ -58,7 +69,10 @@ class RecordedSounds final : public SoundPlayer {
 class RecordedShell final : public Shell {
  public:
   bool Open(const std::string& document, const std::string& parameters,
-            const std::string& working_folder, bool hidden) override;
+            const std::string& working_folder, bool hidden) override {
+    opened.push_back({document, parameters, working_folder, hidden});
+    return answer;
+  }
   std::string MissingFor(const std::string& /*document*/) override { return missing; }
 
   struct Opened {
@@ -115,8 +129,13 @@ class ScriptedClipboard final : public Clipboard {
 
 class ScriptedWindows final : public MainWindow, public Windows {
  public:
-  void ShowLines(std::vector<std::string> new_lines) override;
-  void ReplaceLine(int index, const std::string& line) override;
+  void ShowLines(std::vector<std::string> new_lines) override {
+    lines = std::move(new_lines);
+    selected.clear();
+  }
+  void ReplaceLine(int index, const std::string& line) override {
+    lines.at(static_cast<std::size_t>(index)) = line;
+  }
   std::vector<int> SelectedLines() const override { return selected; }
   void SelectLine(int index) override { selected = {index}; }
   void SetField(Field field, const std::string& text) override { fields[field] = text; }

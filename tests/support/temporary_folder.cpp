@@ -16,6 +16,10 @@ TemporaryFolder::TemporaryFolder() : path_(FromUtf8(MakeTemporaryFolder())) {}
 
 TemporaryFolder::~TemporaryFolder() { RemoveTemporaryFolder(ToUtf8(path_)); }
 
+std::string TemporaryFolder::operator/(const std::string& name) const {
+  return ToUtf8(path_ / FromUtf8(name));
+}
+
 void TemporaryFolder::Write(const std::string& file, std::string_view bytes) const {
   fs::create_directories((path_ / FromUtf8(file)).parent_path());
   std::ofstream stream(path_ / FromUtf8(file), std::ios::binary | std::ios::trunc);
@@ -32,7 +36,7 @@ std::string TemporaryFolder::Read(const std::string& file) const {
 }
 
 bool TemporaryFolder::Exists(const std::string& file) const {
-  return fs::exists(path_ / FromUtf8(file));
+  return fs::exists(fs::symlink_status(path_ / FromUtf8(file)));
 }
 
 void TemporaryFolder::MakeFolder(const std::string& folder) const {
@@ -45,6 +49,12 @@ void TemporaryFolder::MakeReadOnly(const std::string& file) const {
                   fs::perm_options::remove);
 }
 
+void TemporaryFolder::Remove(const std::vector<std::string>& names) const {
+  for (const std::string& name : names) {
+    if (fs::remove_all(path_ / FromUtf8(name)) == 0) throw std::runtime_error("no " + name);
+  }
+}
+
 std::vector<std::string> TemporaryFolder::Names(const std::string& folder) const {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(path_ / FromUtf8(folder))) {
@@ -54,12 +64,19 @@ std::vector<std::string> TemporaryFolder::Names(const std::string& folder) const
   return names;
 }
 
-std::map<std::string, std::string> TemporaryFolder::AllFiles() const {
-  std::map<std::string, std::string> files;
-  for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+std::string TemporaryFolder::Listed(const std::string& folder) const {
+  std::string list;
+  for (const std::string& name : Names(folder)) list += name + '|';
+  return list;
+}
+
+Files TemporaryFolder::AllFiles(const std::string& folder) const {
+  Files files;
+  const fs::path start = path_ / FromUtf8(folder);
+  for (const auto& entry : fs::recursive_directory_iterator(start)) {
     if (!entry.is_regular_file()) continue;
-    const std::string name = ToUtf8(entry.path().lexically_relative(path_));
-    files[name] = Read(name);
+    files[ToUtf8(entry.path().lexically_relative(start))] =
+        Read(ToUtf8(entry.path().lexically_relative(path_)));
   }
   return files;
 }

@@ -10,6 +10,9 @@
 
 namespace vellumark::testing {
 
+// Contents by path, relative and with slashes.
+using Files = std::map<std::string, std::string>;
+
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -18,19 +21,26 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
+  // The host path of something in the folder, in UTF-8.
+  std::string operator/(const std::string& name) const;
 
   // Paths are relative to the folder, with slashes. Folders on the way are made.
   void Write(const std::string& file, std::string_view bytes) const;
   std::string Read(const std::string& file) const;
   bool Exists(const std::string& file) const;
   void MakeFolder(const std::string& folder) const;
+  // Not being allowed to write holds for the owner only: the tests may run as an administrator.
   void MakeReadOnly(const std::string& file) const;
 
-  // The names in a folder, sorted.
-  std::vector<std::string> Names(const std::string& folder) const;
+  // Deletes files, and folders with everything in them.
+  void Remove(const std::vector<std::string>& names) const;
 
-  // Every file below the folder with its content.
-  std::map<std::string, std::string> AllFiles() const;
+  // The names in a folder, sorted; the second answer puts a bar behind each.
+  std::vector<std::string> Names(const std::string& folder) const;
+  std::string Listed(const std::string& folder) const;
+
+  // Every file below a folder of it with its content.
+  Files AllFiles(const std::string& folder = {}) const;
 
  private:
   std::filesystem::path path_;

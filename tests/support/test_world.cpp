@@ -1,9 +1,21 @@
 #include "support/test_world.h"
 
+#include <utility>
+
 #include "archive/archive_file.h"
 #include "foundation/preferences_file.h"
 
 namespace vellumark::testing {
+namespace {
+
+using Roots = std::map<char, std::string>;
+
+Roots With(char letter, const std::string& root, Roots roots) {
+  roots[letter] = root;
+  return roots;
+}
+
+}  // namespace
 
 std::string SavegameBytes(const std::string& level, std::int16_t counter, int seed) {
   static constexpr std::string_view kLeftovers = ",\rQx\xE9,\x8D\r\nab\xFF;,\r";
@@ -17,8 +29,13 @@ std::string SavegameBytes(const std::string& level, std::int16_t counter, int se
   return bytes;
 }
 
-TestWorld::TestWorld()
-    : drives(text, {{'N', (disk.path() / "no medium").string()}, {'T', disk.path().string()}}),
+ArchiveSettings WorldSettings() {
+  return {"Slot", "T:\\Archive", "T:\\Game", "T:\\Game\\tomb4.exe", 15, 0};
+}
+
+TestWorld::TestWorld(Roots more_drives)
+    : drives(text, With('N', (disk.path() / "no medium").string(),
+                        With('T', disk.path().string(), std::move(more_drives)))),
       files(drives.files()) {
   disk.MakeFolder("Program");
   disk.MakeFolder("Game");
@@ -45,13 +62,7 @@ Program TestWorld::NewProgram() {
 }
 
 void TestWorld::WriteArchiveFile() const {
-  ArchiveSettings settings;
-  settings.SubfolderBaseName = "Slot";
-  settings.MainFolder = "T:\\Archive";
-  settings.GameFolder = "T:\\Game";
-  settings.GameExecutable = "T:\\Game\\tomb4.exe";
-  settings.MaxSavegame = 15;
-  disk.Write("Archive.vmk", EncodeArchive(settings));
+  disk.Write("Archive.vmk", EncodeArchive(WorldSettings()));
 }
 
 void TestWorld::WritePreferences(bool sounds_on, bool all_subfolders) const {

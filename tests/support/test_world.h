@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <string>
 
 #include "platform/common/code_page_text.h"
@@ -20,9 +21,13 @@ namespace vellumark::testing {
 // counter, and content that differs with `seed`.
 std::string SavegameBytes(const std::string& level, std::int16_t counter, int seed = 0);
 
+// The settings of the world's archive.
+ArchiveSettings WorldSettings();
+
 class TestWorld {
  public:
-  TestWorld();
+  // The host folders of drives that it has besides.
+  explicit TestWorld(std::map<char, std::string> more_drives = {});
   // The process is back in the folder it was in: operations may have changed that.
   ~TestWorld();
   TestWorld(const TestWorld&) = delete;

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -55,12 +56,7 @@ TEST(CodePageText, EveryByteOfEveryCodePageComesBackFromUtf8) {
 }
 
 TEST(CodePageText, CharactersHaveTheirBytesInEachCodePage) {
-  struct Case {
-    int code_page;
-    std::string_view bytes;
-    std::string_view utf8;
-  };
-  const std::vector<Case> cases = {
+  const std::tuple<int, std::string_view, std::string_view> cases[] = {
       {874, "\x80\xA1\xE0\xFB", "€กเ๛"},
       {1250, "\x8E\xE9\xB3\xF8", "Žéłř"},
       {1251, "\xC7\xC0\xCC\xCE\xCA\xB4", "ЗАМОКґ"},
@@ -72,11 +68,10 @@ TEST(CodePageText, CharactersHaveTheirBytesInEachCodePage) {
       {1257, "\xED\xDE\xFE", "ķŽž"},
       {1258, "\xF5\xFD\xFE", "ơư₫"},
   };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.code_page);
-    const CodePageText text = MakeText(each.code_page);
-    EXPECT_EQ(text.ToUtf8(each.bytes), each.utf8);
-    EXPECT_EQ(text.FromUtf8(each.utf8).bytes, each.bytes);
+  for (const auto& [code_page, bytes, utf8] : cases) {
+    const CodePageText text = MakeText(code_page);
+    EXPECT_EQ(text.ToUtf8(bytes), utf8);
+    EXPECT_EQ(text.FromUtf8(utf8).bytes, bytes) << utf8;
   }
 }
 
@@ -128,23 +123,17 @@ TEST(CodePageText, EachByteOfInvalidUtf8IsAMissingCharacter) {
 }
 
 TEST(CodePageText, LettersChangeCaseWithinTheCodePage) {
-  struct Case {
-    int code_page;
-    std::string_view upper;
-    std::string_view lower;
-  };
-  const std::vector<Case> cases = {
+  const std::tuple<int, std::string_view, std::string_view> cases[] = {
       {1250, "ŁÓDŹ ČŘŽ", "łódź čřž"}, {1251, "ЗАМОК ЁЂҐ", "замок ёђґ"}, {1252, "ÉŠŒŸÞ", "éšœÿþ"},
       {1253, "ΆΈΉΊΌΎΏΫ", "άέήίόύώϋ"}, {1254, "ĞŞÇ I", "ğşç i"},         {1257, "ĶĢŪØ", "ķģūø"},
       {1258, "ĐƠƯĂ", "đơưă"},
   };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.code_page);
-    const CodePageText text = MakeText(each.code_page);
-    EXPECT_EQ(Changed(text, &Text::Lower, each.upper), each.lower);
-    EXPECT_EQ(Changed(text, &Text::Upper, each.lower), each.upper);
-    EXPECT_EQ(Changed(text, &Text::LowerPath, each.upper), each.lower);
-    EXPECT_TRUE(SameButForCase(text, each.upper, each.lower));
+  for (const auto& [code_page, upper, lower] : cases) {
+    const CodePageText text = MakeText(code_page);
+    EXPECT_EQ(Changed(text, &Text::Lower, upper), lower);
+    EXPECT_EQ(Changed(text, &Text::Upper, lower), upper);
+    EXPECT_EQ(Changed(text, &Text::LowerPath, upper), lower);
+    EXPECT_TRUE(SameButForCase(text, upper, lower));
   }
 }
 

@@ -2,44 +2,39 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace vellumark {
 namespace {
 
-TEST(WildcardTest, StarDotStarFindsEveryName) {
-  EXPECT_TRUE(MatchesWildcard("savegame.1", "*.*"));
-  EXPECT_TRUE(MatchesWildcard("notes", "*.*"));
-  EXPECT_TRUE(MatchesWildcard("notes", "*"));
-}
-
-TEST(WildcardTest, DotStarAtTheEndAlsoFindsTheNameWithoutExtension) {
-  EXPECT_TRUE(MatchesWildcard("tower", "tower.*"));
-  EXPECT_TRUE(MatchesWildcard("tower.vmk", "tower.*"));
-  EXPECT_TRUE(MatchesWildcard("tower.a.b", "t*.*"));
-  EXPECT_FALSE(MatchesWildcard("towers", "tower.*"));
-  EXPECT_FALSE(MatchesWildcard("tower", "tower.vmk"));
-}
-
-TEST(WildcardTest, QuestionMarkTakesOneCharacterAtMostAndNoDot) {
-  EXPECT_TRUE(MatchesWildcard("savegame.7", "savegame.?"));
-  EXPECT_FALSE(MatchesWildcard("savegame.12", "savegame.?"));
-  EXPECT_TRUE(MatchesWildcard("savegame.7", "savegame.??"));
-  EXPECT_TRUE(MatchesWildcard("save.x", "save??.x"));
-  EXPECT_FALSE(MatchesWildcard("save.x", "save?x"));
-  EXPECT_FALSE(MatchesWildcard("sve.x", "s?ave.x"));
-}
-
-TEST(WildcardTest, AStarGrowsAsFarAsTheRestNeeds) {
-  EXPECT_TRUE(MatchesWildcard("a.vmk.vmk", "*.vmk"));
-  EXPECT_TRUE(MatchesWildcard("xabcabd", "*ab?"));
-  EXPECT_TRUE(MatchesWildcard("abcbcd", "a*bc*d"));
-  EXPECT_FALSE(MatchesWildcard("a.vmk.old", "*.vmk"));
-  EXPECT_FALSE(MatchesWildcard("abd", "a*bc*d"));
-}
-
-TEST(WildcardTest, ANameWithoutWildcardsFindsOnlyItself) {
-  EXPECT_TRUE(MatchesWildcard("tower.vmk", "tower.vmk"));
-  EXPECT_FALSE(MatchesWildcard("tower.vmk2", "tower.vmk"));
-  EXPECT_FALSE(MatchesWildcard("tower.vm", "tower.vmk"));
+TEST(WildcardTest, FindsTheNamesThatWindowsWouldFind) {
+  struct Case {
+    const char* pattern;
+    std::vector<const char*> found;
+    std::vector<const char*> missed;
+  };
+  const std::vector<Case> cases = {
+      // A dot and a star at the end are nothing that a name must have.
+      {"*.*", {"savegame.1", "notes"}, {}},
+      {"tower.*", {"tower", "tower.vmk"}, {"towers"}},
+      {"t*.*", {"tower.a.b"}, {}},
+      // A question mark is one character at most, and no dot.
+      {"savegame.?", {"savegame.7"}, {"savegame.12"}},
+      {"savegame.??", {"savegame.7"}, {}},
+      {"save??.x", {"save.x"}, {}},
+      {"save?x", {}, {"save.x"}},
+      {"s?ave.x", {}, {"sve.x"}},
+      // A star grows as far as the rest needs.
+      {"*", {"notes"}, {}},
+      {"*.vmk", {"a.vmk.vmk"}, {"a.vmk.old"}},
+      {"*ab?", {"xabcabd"}, {}},
+      {"a*bc*d", {"abcbcd"}, {"abd"}},
+      {"tower.vmk", {"tower.vmk"}, {"tower.vmk2", "tower.vm", "tower"}},
+  };
+  for (const auto& [pattern, found, missed] : cases) {
+    for (const char* name : found) EXPECT_TRUE(MatchesWildcard(name, pattern)) << name << pattern;
+    for (const char* name : missed) EXPECT_FALSE(MatchesWildcard(name, pattern)) << name << pattern;
+  }
 }
 
 }  // namespace

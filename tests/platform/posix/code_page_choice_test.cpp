@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <tuple>
 
 #include "platform/system_services.h"
 
@@ -15,17 +15,14 @@ namespace {
 
 TEST(SystemText, TheSystemsTextFollowsTheEnvironment) {
   const char* const before = std::getenv("LC_ALL");
+  // Empty is as good as missing.
   const std::string saved = before == nullptr ? "" : before;
 
   ASSERT_EQ(setenv("LC_ALL", "tr_TR.UTF-8", 1), 0);
   const auto turkish = MakeSystemText();
   ASSERT_EQ(setenv("LC_ALL", "ja_JP.UTF-8", 1), 0);
   const auto japanese = MakeSystemText();
-  if (before == nullptr) {
-    unsetenv("LC_ALL");
-  } else {
-    setenv("LC_ALL", saved.c_str(), 1);
-  }
+  setenv("LC_ALL", saved.c_str(), 1);
 
   EXPECT_EQ(turkish->CodePage(), 1254);
   EXPECT_FALSE(turkish->IsSubstitute());
@@ -35,13 +32,7 @@ TEST(SystemText, TheSystemsTextFollowsTheEnvironment) {
 }
 
 TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
-  struct Case {
-    std::string_view locale;
-    int code_page;
-    bool substitute;
-    std::string_view language;
-  };
-  const std::vector<Case> cases = {
+  const std::tuple<std::string_view, int, bool, std::string_view> cases[] = {
       {"", 1252, false, ""},
       {"C", 1252, false, ""},
       {"C.UTF-8", 1252, false, ""},
@@ -70,12 +61,12 @@ TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
       {"ja_JP.UTF-8", 1252, true, "ja"},
       {"zh_TW", 1252, true, "zh"},
   };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.locale);
-    const CodePageChoice choice = ChooseCodePage(each.locale);
-    EXPECT_EQ(choice.code_page, each.code_page);
-    EXPECT_EQ(choice.substitute, each.substitute);
-    EXPECT_EQ(choice.language, each.language);
+  for (const auto& [locale, code_page, substitute, language] : cases) {
+    SCOPED_TRACE(locale);
+    const CodePageChoice choice = ChooseCodePage(locale);
+    EXPECT_EQ(choice.code_page, code_page);
+    EXPECT_EQ(choice.substitute, substitute);
+    EXPECT_EQ(choice.language, language);
   }
 }
 

@@ -6,54 +6,53 @@
 #include <map>
 #include <string>
 
-#include "support/host_folder.h"
+#include "support/temporary_folder.h"
 
 namespace vellumark {
 namespace {
 
-namespace fs = std::filesystem;
-
 using Roots = std::map<char, std::string>;
 
-TEST(DriveMapTest, WithoutAPrefixThereIsTheRootOnly) {
-  const HostFolder home;
+class DriveMapTest : public ::testing::Test {
+ protected:
+  // Makes a drive of a prefix below home.
+  void Link(const std::string& prefix, const std::string& name, const std::string& target) const {
+    home_.MakeFolder(prefix + "/dosdevices");
+    std::filesystem::create_symlink(target, home_ / (prefix + "/dosdevices/" + name));
+  }
+
+  Roots Read(const std::string& prefix) const { return ReadDriveMap(prefix, path_).roots; }
+
+  testing::TemporaryFolder home_;
+  const std::string path_ = home_.path().string();
+};
+
+TEST_F(DriveMapTest, WithoutAPrefixThereIsTheRootOnly) {
   EXPECT_EQ(ReadDriveMap("", "").roots, (Roots{{'Z', "/"}}));
-  EXPECT_EQ(ReadDriveMap("", home.path()).roots, (Roots{{'Z', "/"}}));
-  EXPECT_EQ(ReadDriveMap(home / "missing", home.path()).roots, (Roots{{'Z', "/"}}));
+  EXPECT_EQ(Read(""), (Roots{{'Z', "/"}}));
+  EXPECT_EQ(Read(home_ / "missing"), (Roots{{'Z', "/"}}));
 }
 
-TEST(DriveMapTest, DrivesAreTheLinksOfThePrefix) {
-  const HostFolder home;
-  fs::create_directories(home / ".wine/dosdevices");
-  fs::create_directories(home / ".wine/drive_c");
-  fs::create_directories(home / "games");
-  fs::create_symlink("../drive_c", home / ".wine/dosdevices/c:");
-  fs::create_symlink(home / "games/", home / ".wine/dosdevices/g:");
-  fs::create_symlink("/dev/sr0", home / ".wine/dosdevices/d::");
-  fs::create_symlink("/dev/ttyS0", home / ".wine/dosdevices/com1");
-
-  EXPECT_EQ(ReadDriveMap("", home.path()).roots,
-            (Roots{{'C', home / ".wine/drive_c"}, {'G', home / "games"}, {'Z', "/"}}));
+TEST_F(DriveMapTest, DrivesAreTheLinksOfThePrefixDeadOnesToo) {
+  home_.MakeFolder(".wine/drive_c");
+  home_.MakeFolder("games");
+  Link(".wine", "c:", "../drive_c");
+  Link(".wine", "e:", "../medium");
+  Link(".wine", "f:", "/missing/medium/");
+  Link(".wine", "g:", home_ / "games/");
+  Link(".wine", "d::", "/dev/sr0");
+  Link(".wine", "com1", "/dev/ttyS0");
+  EXPECT_EQ(Read(""), (Roots{{'C', home_ / ".wine/drive_c"},
+                             {'E', home_ / ".wine/medium"},
+                             {'F', "/missing/medium"},
+                             {'G', home_ / "games"},
+                             {'Z', "/"}}));
 }
 
-TEST(DriveMapTest, ThePrefixGivenGoesBeforeTheOneAtHomeAndMayMoveTheRootDrive) {
-  const HostFolder home;
-  fs::create_directories(home / ".wine/dosdevices");
-  fs::create_symlink("/usr", home / ".wine/dosdevices/c:");
-  fs::create_directories(home / "other/dosdevices");
-  fs::create_symlink(home.path(), home / "other/dosdevices/z:");
-
-  EXPECT_EQ(ReadDriveMap(home / "other", home.path()).roots, (Roots{{'Z', home.path()}}));
-}
-
-TEST(DriveMapTest, ADeadLinkIsADriveAllTheSame) {
-  const HostFolder home;
-  fs::create_directories(home / ".wine/dosdevices");
-  fs::create_symlink("../medium", home / ".wine/dosdevices/d:");
-  fs::create_symlink("/missing/medium/", home / ".wine/dosdevices/e:");
-
-  EXPECT_EQ(ReadDriveMap("", home.path()).roots,
-            (Roots{{'D', home / ".wine/medium"}, {'E', "/missing/medium"}, {'Z', "/"}}));
+TEST_F(DriveMapTest, ThePrefixGivenGoesBeforeTheOneAtHomeAndMayMoveTheRootDrive) {
+  Link(".wine", "c:", "/usr");
+  Link("other", "z:", path_);
+  EXPECT_EQ(Read(home_ / "other"), (Roots{{'Z', path_}}));
 }
 
 }  // namespace

@@ -12,7 +12,7 @@
 
 #include "platform/common/code_page_text.h"
 #include "platform/common/host_names.h"
-#include "support/host_folder.h"
+#include "support/temporary_folder.h"
 
 namespace vellumark {
 namespace {
@@ -24,22 +24,23 @@ void WaitForTheNextTick() { std::this_thread::sleep_for(std::chrono::millisecond
 
 class VariantFinderTest : public ::testing::Test {
  protected:
-  std::string First(const std::string& name) { return finder_.Find(folder_.path(), name).first; }
-  std::size_t Count(const std::string& name) { return finder_.Find(folder_.path(), name).count; }
+  std::string First(const std::string& name) { return finder_.Find(path_, name).first; }
+  std::size_t Count(const std::string& name) { return finder_.Find(path_, name).count; }
 
-  HostFolder folder_;
+  testing::TemporaryFolder folder_;
+  const std::string path_ = folder_.path().string();
   CodePageText text_{1252, "en", false};
   PathNames names_{text_};
   VariantFinder finder_{names_, -10};  // remembers every folder at once
 };
 
 TEST_F(VariantFinderTest, SeesEveryChangeOfAFolderThatItRemembers) {
-  folder_.Put("Arc", "");
+  folder_.Write("Arc", "");
   EXPECT_EQ(First("arc"), "Arc");
   EXPECT_EQ(First("arc"), "Arc");
 
   WaitForTheNextTick();
-  folder_.Put("ARC", "");
+  folder_.Write("ARC", "");
   EXPECT_EQ(First("arc"), "ARC");
   EXPECT_EQ(Count("arc"), 2U);
 
@@ -51,22 +52,22 @@ TEST_F(VariantFinderTest, SeesEveryChangeOfAFolderThatItRemembers) {
 }
 
 TEST_F(VariantFinderTest, SeesAChangeBehindARestoredTime) {
-  folder_.Put("Arc", "");
-  const fs::file_time_type time = fs::last_write_time(folder_.path());
+  folder_.Write("Arc", "");
+  const fs::file_time_type time = fs::last_write_time(path_);
   EXPECT_EQ(First("arc"), "Arc");
 
   WaitForTheNextTick();
-  folder_.Put("ARC", "");
-  fs::last_write_time(folder_.path(), time);
+  folder_.Write("ARC", "");
+  fs::last_write_time(path_, time);
   EXPECT_EQ(Count("arc"), 2U);
 }
 
 TEST_F(VariantFinderTest, DoesNotTakeAnotherFolderForTheOneOfTheSameName) {
-  folder_.Put("sub/Arc", "");
+  folder_.Write("sub/Arc", "");
   EXPECT_EQ(finder_.Find(folder_ / "sub", "arc").first, "Arc");
   fs::rename(folder_ / "sub", folder_ / "old");
   EXPECT_NE(finder_.Find(folder_ / "sub", "arc").error, 0);
-  folder_.Put("sub/aRc", "");
+  folder_.Write("sub/aRc", "");
   EXPECT_EQ(finder_.Find(folder_ / "sub", "arc").first, "aRc");
 }
 

@@ -9,19 +9,21 @@
 #include <string>
 #include <vector>
 
-#include "platform/posix/posix_file_system_fixture.h"
+#include "platform/disk_fixture.h"
 
 namespace vellumark {
 namespace {
 
 namespace stdfs = std::filesystem;
 
+using PosixFileSystemTest = DiskTest;
+
 TEST_F(PosixFileSystemTest, TheNameAsSpelledGoesFirstThenTheFirstInByteOrder) {
-  host_.Put("Arc/a", "in Arc");
-  host_.Put("Arc/A", "capital in Arc");
-  host_.Put("arc/b", "in arc");
-  host_.Put("note.txt", "lower");
-  host_.Put("Note.txt", "capital");
+  disk_.Write("Arc/a", "in Arc");
+  disk_.Write("Arc/A", "capital in Arc");
+  disk_.Write("arc/b", "in arc");
+  disk_.Write("note.txt", "lower");
+  disk_.Write("Note.txt", "capital");
 
   EXPECT_EQ(fs_.Read("T:\\note.txt", 99).bytes, "lower");
   EXPECT_EQ(fs_.Read("T:\\Note.txt", 99).bytes, "capital");
@@ -31,22 +33,22 @@ TEST_F(PosixFileSystemTest, TheNameAsSpelledGoesFirstThenTheFirstInByteOrder) {
   // What exists as spelled is not searched for elsewhere.
   EXPECT_EQ(fs_.Read("T:\\arc\\a", 99).error, FileError::kNotFound);
 
-  stdfs::remove(host_ / "note.txt");
+  stdfs::remove(disk_ / "note.txt");
   EXPECT_EQ(fs_.Read("T:\\note.txt", 99).bytes, "capital");
 }
 
 TEST_F(PosixFileSystemTest, ReadOnlyIsTheOwnersMissingRightToWrite) {
-  host_.Put("folder/file", "");
-  MakeReadOnly("folder/file");
+  disk_.Write("folder/file", "");
+  disk_.MakeReadOnly("folder/file");
   EXPECT_TRUE(fs_.Attributes("T:\\folder\\file").attributes.read_only);
   EXPECT_FALSE(fs_.Attributes("T:\\folder").attributes.read_only);
-  MakeReadOnly("folder");
+  disk_.MakeReadOnly("folder");
   EXPECT_FALSE(fs_.Attributes("T:\\folder").attributes.IsBareFolder());
 }
 
 TEST_F(PosixFileSystemTest, WhatIsNeitherFileNorFolderIsSeenAndNotTouched) {
-  ASSERT_EQ(mkfifo((host_ / "pipe").c_str(), 0600), 0);
-  stdfs::create_symlink("missing", host_ / "dead");
+  ASSERT_EQ(mkfifo((disk_ / "pipe").c_str(), 0600), 0);
+  stdfs::create_symlink("missing", disk_ / "dead");
 
   for (const std::string name : {"T:\\pipe", "T:\\dead"}) {
     EXPECT_TRUE(fs_.Attributes(name).attributes.other) << name;
@@ -55,7 +57,7 @@ TEST_F(PosixFileSystemTest, WhatIsNeitherFileNorFolderIsSeenAndNotTouched) {
     EXPECT_EQ(fs_.Delete(name), FileError::kAccessDenied) << name;
     EXPECT_EQ(fs_.Create(name, "x"), FileError::kAlreadyExists) << name;
   }
-  EXPECT_FALSE(host_.Has("missing"));
+  EXPECT_FALSE(disk_.Exists("missing"));
 
   const auto reader = fs_.OpenFolder("T:\\");
   ASSERT_EQ(reader->Contents().entries.size(), 2U);
@@ -64,15 +66,15 @@ TEST_F(PosixFileSystemTest, WhatIsNeitherFileNorFolderIsSeenAndNotTouched) {
 }
 
 TEST_F(PosixFileSystemTest, AListedLinkIsWhatItLeadsTo) {
-  host_.Put("Sub/x", "");
-  stdfs::create_directory_symlink("Sub", host_ / "link");
+  disk_.Write("Sub/x", "");
+  stdfs::create_directory_symlink("Sub", disk_ / "link");
   EXPECT_TRUE(fs_.List("T:\\link").entries[0].folder);
   EXPECT_EQ(Names("T:\\link\\*"), "x|");
 }
 
 TEST_F(PosixFileSystemTest, MarksNamesThatDifferByCaseOnly) {
   for (const char* name : {"tower.vmk", "Tower.vmk", "other", "\xC3\xA4", "\xC3\x84"}) {
-    host_.Put(name, "");
+    disk_.Write(name, "");
   }
   std::string ambiguous;
   for (const FolderEntry& entry : fs_.List("T:\\*").entries) {
@@ -82,13 +84,13 @@ TEST_F(PosixFileSystemTest, MarksNamesThatDifferByCaseOnly) {
 }
 
 TEST_F(PosixFileSystemTest, NamesThatTheCoreCannotSpeakOfAreListedApart) {
-  host_.Put("good", "");
-  host_.Put("\xE2\x98\x83.txt", "");
-  host_.Put("bad\xFF", "");
-  host_.Put("half\xED\xA0\x80", "");
-  for (const char* name : {"a:b", "con.txt", "dot.", "LPT9", "q?", "tab\t"}) host_.Put(name, "");
-  stdfs::create_directory(host_ / "blank ");
-  host_.Put("com10", "");
+  disk_.Write("good", "");
+  disk_.Write("\xE2\x98\x83.txt", "");
+  disk_.Write("bad\xFF", "");
+  disk_.Write("half\xED\xA0\x80", "");
+  for (const char* name : {"a:b", "con.txt", "dot.", "LPT9", "q?", "tab\t"}) disk_.Write(name, "");
+  stdfs::create_directory(disk_ / "blank ");
+  disk_.Write("com10", "");
 
   const Listing listing = fs_.List("T:\\*");
   EXPECT_EQ(Names("T:\\*"), "com10|good|");
@@ -104,8 +106,8 @@ TEST_F(PosixFileSystemTest, NamesThatTheCoreCannotSpeakOfAreListedApart) {
 }
 
 TEST_F(PosixFileSystemTest, AFolderReaderTellsLetterCaseApart) {
-  host_.Put("Slot/savegame.0", "zero");
-  host_.Put("Slot/Savegame.0", "ZERO");
+  disk_.Write("Slot/savegame.0", "zero");
+  disk_.Write("Slot/Savegame.0", "ZERO");
 
   const auto slot = fs_.OpenFolder("T:\\slot");
   const std::vector<FolderEntry>& entries = slot->Contents().entries;
@@ -115,62 +117,63 @@ TEST_F(PosixFileSystemTest, AFolderReaderTellsLetterCaseApart) {
 }
 
 TEST_F(PosixFileSystemTest, ADriveIsAFolderOfTheHost) {
-  EXPECT_EQ(fs_.HostPath("D:\\a"), host_ / "medium/a");
+  EXPECT_EQ(fs_.HostPath("D:\\a"), disk_ / "medium/a");
   const std::vector<Drive> drives = fs_.Drives();
   ASSERT_EQ(drives.size(), 2U);
   EXPECT_EQ(drives[0].letter, 'D');
-  EXPECT_EQ(drives[1].label, host_.path());
+  EXPECT_EQ(drives[1].label, disk_.path().string());
 
-  host_.Put("medium", "a file");
+  disk_.Write("medium", "a file");
   EXPECT_EQ(fs_.List("D:\\*").error, FileError::kNotReady);
   EXPECT_EQ(fs_.Attributes("D:").error, FileError::kNotReady);
 }
 
 TEST_F(PosixFileSystemTest, ALinkHasTheIdentityOfWhatItLeadsTo) {
-  host_.Put("Arc/a", "");
-  stdfs::create_symlink("Arc/a", host_ / "link");
+  disk_.Write("Arc/a", "");
+  stdfs::create_symlink("Arc/a", disk_ / "link");
   EXPECT_EQ(fs_.Identity("T:\\arc\\A"), fs_.Identity("T:\\link"));
 }
 
 TEST_F(PosixFileSystemTest, HostPathsHaveTheDisksSpellingAsFarAsTheyExist) {
-  host_.Put("Arc/Slot/a", "");
-  EXPECT_EQ(fs_.HostPath("t:\\arc\\slot\\A"), host_ / "Arc/Slot/a");
-  EXPECT_EQ(fs_.HostPath("T:\\arc\\New\\\xE4"), host_ / "Arc/New/\xC3\xA4");
-  EXPECT_EQ(fs_.HostPath("T:"), host_.path());
+  disk_.Write("Arc/Slot/a", "");
+  EXPECT_EQ(fs_.HostPath("t:\\arc\\slot\\A"), disk_ / "Arc/Slot/a");
+  EXPECT_EQ(fs_.HostPath("T:\\arc\\New\\\xE4"), disk_ / "Arc/New/\xC3\xA4");
+  EXPECT_EQ(fs_.HostPath("T:"), disk_.path().string());
   EXPECT_EQ(fs_.HostPath("T:\\..\\a/b"), "");
 }
 
 TEST_F(PosixFileSystemTest, AHostPathBelongsToTheDriveWithTheLongestFolder) {
-  host_.Put("c/games/x", "");
-  stdfs::create_directory_symlink(host_ / "c", host_ / "to_c");
-  stdfs::create_symlink("x", host_ / "c/games/link");
-  PosixFileSystem fs(text_, DriveMap{{{'C', host_ / "to_c"},
-                                      {'G', host_ / "c/games"},
-                                      {'H', host_ / "c/games"},
-                                      {'Y', host_ / "c/games"},
+  disk_.Write("c/games/x", "");
+  stdfs::create_directory_symlink(disk_ / "c", disk_ / "to_c");
+  stdfs::create_symlink("x", disk_ / "c/games/link");
+  PosixFileSystem fs(text_, DriveMap{{{'C', disk_ / "to_c"},
+                                      {'G', disk_ / "c/games"},
+                                      {'H', disk_ / "c/games"},
+                                      {'Y', disk_ / "c/games"},
                                       {'Z', "/"}}});
 
-  EXPECT_EQ(fs.FromHostPath(host_ / "c/games/x"), "G:\\x");
-  EXPECT_EQ(fs.FromHostPath(host_ / "to_c/./games//none/../x/"), "G:\\x");
-  EXPECT_EQ(fs.FromHostPath(host_ / "c/games/link"), "G:\\link");
-  EXPECT_EQ(fs.FromHostPath(host_ / "c/gamesx"), "C:\\gamesx");
-  EXPECT_EQ(fs.FromHostPath(host_ / "to_c"), "C:");
+  EXPECT_EQ(fs.FromHostPath(disk_ / "c/games/x"), "G:\\x");
+  EXPECT_EQ(fs.FromHostPath(disk_ / "to_c/./games//none/../x/"), "G:\\x");
+  EXPECT_EQ(fs.FromHostPath(disk_ / "c/games/link"), "G:\\link");
+  EXPECT_EQ(fs.FromHostPath(disk_ / "c/gamesx"), "C:\\gamesx");
+  EXPECT_EQ(fs.FromHostPath(disk_ / "to_c"), "C:");
   EXPECT_EQ(fs.FromHostPath("/"), "Z:");
   EXPECT_EQ(fs.FromHostPath("/none/\xC3\xA4"), "Z:\\none\\\xE4");
   EXPECT_EQ(fs.FromHostPath("/none/a:b"), std::nullopt);
   EXPECT_EQ(fs.FromHostPath("/none/\xE2\x98\x83"), std::nullopt);
   EXPECT_EQ(fs_.FromHostPath("/none"), std::nullopt);
 
-  PosixFileSystem equal(text_, DriveMap{{{'Q', host_.path()}, {'Z', host_.path()}}});
-  EXPECT_EQ(equal.FromHostPath(host_ / "c"), "Q:\\c");
+  PosixFileSystem equal(text_,
+                        DriveMap{{{'Q', disk_.path().string()}, {'Z', disk_.path().string()}}});
+  EXPECT_EQ(equal.FromHostPath(disk_ / "c"), "Q:\\c");
 }
 
 // These move the process to another folder.
 class CurrentFolderTest : public PosixFileSystemTest {
  protected:
   CurrentFolderTest() : before_(stdfs::current_path()) {
-    host_.Put("Arc/Slot/a", "");
-    stdfs::current_path(host_ / "Arc");
+    disk_.Write("Arc/Slot/a", "");
+    stdfs::current_path(disk_ / "Arc");
   }
   ~CurrentFolderTest() override { stdfs::current_path(before_); }
 
@@ -178,25 +181,25 @@ class CurrentFolderTest : public PosixFileSystemTest {
 };
 
 TEST_F(CurrentFolderTest, StartsAsTheWorkingFolder) {
-  PosixFileSystem fs(text_, DriveMap{{{'T', host_.path()}}});
+  PosixFileSystem fs(text_, DriveMap{{{'T', disk_.path().string()}}});
   EXPECT_EQ(fs.CurrentFolder(), "T:\\Arc");
   EXPECT_EQ(fs.Attributes("slot\\a").error, FileError::kNone);
 }
 
 TEST_F(CurrentFolderTest, StartsAtHomeWhenTheCoreCannotNameTheWorkingFolder) {
-  stdfs::create_directory(host_ / "a:b");
-  stdfs::current_path(host_ / "a:b");
-  const DriveMap drives{{{'T', host_.path()}}};
-  EXPECT_EQ(PosixFileSystem(text_, drives, host_ / "Arc").CurrentFolder(), "T:\\Arc");
+  stdfs::create_directory(disk_ / "a:b");
+  stdfs::current_path(disk_ / "a:b");
+  const DriveMap drives{{{'T', disk_.path().string()}}};
+  EXPECT_EQ(PosixFileSystem(text_, drives, disk_ / "Arc").CurrentFolder(), "T:\\Arc");
   EXPECT_EQ(PosixFileSystem(text_, drives, "/").CurrentFolder(), "Z:");
 }
 
 TEST_F(CurrentFolderTest, ReadsTheCommandLineAsAWindowsPathOrAHostPath) {
-  PosixFileSystem fs(text_, DriveMap{{{'T', host_.path()}}});
+  PosixFileSystem fs(text_, DriveMap{{{'T', disk_.path().string()}}});
   EXPECT_EQ(fs.FromCommandLine("Q:y.vmk"), "Q:\\y.vmk");
   EXPECT_EQ(fs.FromCommandLine("saves/y.vmk"), "T:\\Arc\\saves\\y.vmk");
   EXPECT_EQ(fs.FromCommandLine("\xE4.vmk"), "T:\\Arc\\\xE4.vmk");
-  EXPECT_EQ(fs.FromCommandLine(host_ / "y.vmk"), "T:\\y.vmk");
+  EXPECT_EQ(fs.FromCommandLine(disk_ / "y.vmk"), "T:\\y.vmk");
   for (const std::string typed : {"/none/y", "~/y", "C:/y", "a/b\\c"}) {
     EXPECT_EQ(fs.FromCommandLine(typed), typed);
   }

@@ -14,14 +14,16 @@
 #include <string>
 #include <vector>
 
+#include "platform/disk_fixture.h"
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/free_name_rename.h"
-#include "platform/posix/posix_file_system_fixture.h"
 
 namespace vellumark {
 namespace {
 
 namespace stdfs = std::filesystem;
+
+using PosixFileSystemTest = DiskTest;
 
 constexpr RenameMode kRefuse = RenameMode::kRefuseExisting;
 constexpr RenameMode kReplace = RenameMode::kReplaceFile;
@@ -47,56 +49,38 @@ class FileSizeLimit {
 };
 
 TEST_F(PosixFileSystemTest, AnAmbiguousNameIsNotChanged) {
-  host_.Put("Save", "capital");
-  host_.Put("save", "small");
-  host_.Put("other", "x");
+  disk_.Write("Save", "capital");
+  disk_.Write("save", "small");
+  disk_.Write("other", "x");
   for (const std::string path : {"T:\\save", "T:\\Save", "T:\\SAVE"}) {
     SCOPED_TRACE(path);
     ExpectRefused(FileError::kAmbiguous,
-                  {
-                      [&] { return fs_.Delete(path); },
-                      [&] { return fs_.WriteAt(path, 0, "x"); },
-                      [&] { return fs_.Append(path, "x"); },
-                      [&] { return fs_.ClearAttributes(path); },
-                      [&] { return fs_.Rename(path, "T:\\new", kRefuse); },
-                      [&] { return fs_.Rename("T:\\other", path, kRefuse); },
-                      [&] { return fs_.Rename("T:\\other", path, kReplace); },
-                  });
+                  {[&] { return fs_.Delete(path); }, [&] { return fs_.WriteAt(path, 0, "x"); },
+                   [&] { return fs_.Append(path, "x"); }, [&] { return fs_.ClearAttributes(path); },
+                   [&] { return fs_.Rename(path, "T:\\new", kRefuse); },
+                   [&] { return fs_.Rename("T:\\other", path, kRefuse); },
+                   [&] { return fs_.Rename("T:\\other", path, kReplace); }});
     EXPECT_EQ(fs_.Create(path, ""), FileError::kAlreadyExists);
   }
 }
 
 TEST_F(PosixFileSystemTest, NothingIsChangedBehindAFolderThatCouldBeEither) {
-  host_.Put("Arc/a", "1");
-  host_.Put("arc/a", "2");
-  ExpectRefused(FileError::kAmbiguous, {
-                                           [&] { return fs_.Delete("T:\\ARC\\a"); },
-                                           [&] { return fs_.Create("T:\\ARC\\b", ""); },
-                                           [&] { return fs_.Append("T:\\ARC\\b", ""); },
-                                           [&] { return fs_.CreateFolder("T:\\ARC\\b"); },
-                                           [&] { return fs_.RemoveFolder("T:\\arc"); },
-                                       });
+  disk_.Write("Arc/a", "1");
+  disk_.Write("arc/a", "2");
+  ExpectRefused(
+      FileError::kAmbiguous,
+      {[&] { return fs_.Delete("T:\\ARC\\a"); }, [&] { return fs_.Create("T:\\ARC\\b", ""); },
+       [&] { return fs_.Append("T:\\ARC\\b", ""); }, [&] { return fs_.CreateFolder("T:\\ARC\\b"); },
+       [&] { return fs_.RemoveFolder("T:\\arc"); }});
   // A folder as spelled is no question.
   EXPECT_EQ(fs_.Delete("T:\\arc\\A"), FileError::kNone);
-  EXPECT_EQ(host_.Get("Arc/a"), "1");
-  EXPECT_FALSE(host_.Has("arc/a"));
-}
-
-TEST_F(PosixFileSystemTest, RenameMayChangeTheCaseOnly) {
-  host_.Put("Arc/tower.vmk", "x");
-  for (const RenameMode mode : {kRefuse, kReplace}) {
-    const std::string name = mode == kRefuse ? "TOWER.vmk" : "Tower.VMK";
-    EXPECT_EQ(fs_.Rename("T:\\arc\\tower.vmk", "T:\\ARC\\" + name, mode), FileError::kNone);
-    EXPECT_EQ(Names("T:\\arc\\*"), name + '|');
-  }
-  EXPECT_EQ(fs_.Rename("T:\\ARC", "T:\\arc", kRefuse), FileError::kNone);
-  EXPECT_EQ(fs_.Rename("T:\\arc", "T:\\arc", kRefuse), FileError::kNone);
-  EXPECT_EQ(host_.Get("arc/Tower.VMK"), "x");
+  EXPECT_EQ(disk_.Read("Arc/a"), "1");
+  EXPECT_FALSE(disk_.Exists("arc/a"));
 }
 
 TEST_F(PosixFileSystemTest, AFullDiskLeavesNoPartsBehind) {
-  host_.Put("old", std::string(60, 'o'));
-  host_.Put("long", std::string(300, 'l'));
+  disk_.Write("old", std::string(60, 'o'));
+  disk_.Write("long", std::string(300, 'l'));
   const std::string bytes(200, 'n');
   std::vector<FileError> answers;
   const auto before = Snapshot();
@@ -113,16 +97,16 @@ TEST_F(PosixFileSystemTest, AFullDiskLeavesNoPartsBehind) {
 }
 
 TEST(CompareAllTest, FindsEveryDifference) {
-  const HostFolder folder;
+  const testing::TemporaryFolder folder;
   const std::string bytes(150000, 'x');
   std::string other_end = bytes;
   other_end.back() = 'y';
   const std::pair<std::string, int> others[] = {
       {bytes, 0}, {other_end, EIO}, {bytes + 'x', EIO}, {bytes.substr(1), EIO}, {"", EIO}};
-  folder.Put("a", bytes);
+  folder.Write("a", bytes);
   const Descriptor a(open((folder / "a").c_str(), O_RDONLY | O_CLOEXEC));
   for (const auto& [content, expected] : others) {
-    folder.Put("b", content);
+    folder.Write("b", content);
     const Descriptor b(open((folder / "b").c_str(), O_RDONLY | O_CLOEXEC));
     EXPECT_EQ(CompareAll(a.number(), b.number()), expected);
     EXPECT_EQ(CompareAll(b.number(), a.number()), expected);
@@ -130,22 +114,22 @@ TEST(CompareAllTest, FindsEveryDifference) {
 }
 
 TEST_F(PosixFileSystemTest, RenamingInOneStepOrInSeveralNeverReplaces) {
-  host_.Put("a", "1");
-  host_.Put("b", "2");
-  stdfs::create_directory(host_ / "folder");
-  EXPECT_EQ(RenameToFreeName(host_ / "a", host_ / "b"), EEXIST);
-  EXPECT_EQ(RenameToFreeNameInSteps(host_ / "a", host_ / "b"), EEXIST);
-  EXPECT_EQ(RenameToFreeNameInSteps(host_ / "folder", host_ / "b"), EEXIST);
-  EXPECT_EQ(RenameToFreeNameInSteps(host_ / "a", host_ / "c"), 0);
-  EXPECT_EQ(RenameToFreeNameInSteps(host_ / "folder", host_ / "d"), 0);
-  EXPECT_EQ(Snapshot(), (std::map<std::string, std::string>{{"b", "2"}, {"c", "1"}, {"d", "/"}}));
+  disk_.Write("a", "1");
+  disk_.Write("b", "2");
+  stdfs::create_directory(disk_ / "folder");
+  EXPECT_EQ(RenameToFreeName(disk_ / "a", disk_ / "b"), EEXIST);
+  EXPECT_EQ(RenameToFreeNameInSteps(disk_ / "a", disk_ / "b"), EEXIST);
+  EXPECT_EQ(RenameToFreeNameInSteps(disk_ / "folder", disk_ / "b"), EEXIST);
+  EXPECT_EQ(RenameToFreeNameInSteps(disk_ / "a", disk_ / "c"), 0);
+  EXPECT_EQ(RenameToFreeNameInSteps(disk_ / "folder", disk_ / "d"), 0);
+  EXPECT_EQ(Snapshot(), (testing::Files{{"b", "2"}, {"c", "1"}, {"d", "/"}}));
 }
 
 TEST_F(PosixFileSystemTest, DeleteAllAnswersForEachFileWhatDeleteWould) {
   for (const char* name : {"Arc/one", "Arc/Two", "Arc/twice", "Arc/TWICE", "Arc/locked"}) {
-    host_.Put(name, "x");
+    disk_.Write(name, "x");
   }
-  MakeReadOnly("Arc/locked");
+  disk_.MakeReadOnly("Arc/locked");
   const std::vector<FileError> expected = {
       FileError::kNone,         FileError::kNotFound,     FileError::kNotFound,
       FileError::kNone,         FileError::kAccessDenied, FileError::kAmbiguous,
@@ -156,12 +140,12 @@ TEST_F(PosixFileSystemTest, DeleteAllAnswersForEachFileWhatDeleteWould) {
   EXPECT_EQ(Names("T:\\arc\\one") + Names("T:\\arc\\two"), "");
 
   // What it has seen of the folder does not outlive it.
-  host_.Put("Arc/TWO", "y");
+  disk_.Write("Arc/TWO", "y");
   EXPECT_EQ(fs_.Delete("T:\\arc\\two"), FileError::kNone);
 }
 
 TEST_F(PosixFileSystemTest, HeldFoldersShowWhatWasDoneToThem) {
-  host_.Put("Arc/Old", "x");
+  disk_.Write("Arc/Old", "x");
   const auto hold = fs_.HoldFolders();
   const auto expect = [](FileError answer, FileError error) { EXPECT_EQ(answer, error); };
   expect(fs_.Create("T:\\Arc\\OLD", ""), FileError::kAlreadyExists);
@@ -174,12 +158,12 @@ TEST_F(PosixFileSystemTest, HeldFoldersShowWhatWasDoneToThem) {
   expect(fs_.Create("T:\\Arc\\NEW", "z"), FileError::kNone);
   expect(fs_.DeleteAll({"T:\\Arc\\new"}).front(), FileError::kNone);
   expect(fs_.Create("T:\\Arc\\new", "z"), FileError::kNone);
-  EXPECT_EQ(host_.Get("Arc/b"), "x");
+  EXPECT_EQ(disk_.Read("Arc/b"), "x");
 }
 
 TEST_F(PosixFileSystemTest, ALinkToAFolderIsNeitherDeletedNorRemoved) {
-  host_.Put("Arc/a", "x");
-  stdfs::create_directory_symlink("Arc", host_ / "link");
+  disk_.Write("Arc/a", "x");
+  stdfs::create_directory_symlink("Arc", disk_ / "link");
   ExpectRefused(FileError::kAccessDenied, {[&] { return fs_.Delete("T:\\link"); }});
   ExpectRefused(FileError::kNotFound, {[&] { return fs_.RemoveFolder("T:\\link"); }});
 }

@@ -17,15 +17,15 @@ namespace {
 class WindowsFileSystemTest : public DiskTest {
  protected:
   void SetBits(const std::string& name, DWORD bits) const {
-    ASSERT_NE(SetFileAttributesW(ToWide(host_ / name).c_str(), bits), 0) << name;
+    ASSERT_NE(SetFileAttributesW(ToWide(disk_ / name).c_str(), bits), 0) << name;
   }
   DWORD Bits(const std::string& name) const {
-    return GetFileAttributesW(ToWide(host_ / name).c_str());
+    return GetFileAttributesW(ToWide(disk_ / name).c_str());
   }
 };
 
 TEST_F(WindowsFileSystemTest, HiddenAndSystemFilesAreNoPlainFiles) {
-  for (const char* name : {"archive", "hidden", "plain", "read", "system"}) host_.Put(name, "");
+  for (const char* name : {"archive", "hidden", "plain", "read", "system"}) disk_.Write(name, "");
   SetBits("archive", FILE_ATTRIBUTE_ARCHIVE);
   SetBits("hidden", FILE_ATTRIBUTE_HIDDEN);
   SetBits("plain", FILE_ATTRIBUTE_NORMAL);
@@ -46,7 +46,7 @@ TEST_F(WindowsFileSystemTest, HiddenAndSystemFilesAreNoPlainFiles) {
 }
 
 TEST_F(WindowsFileSystemTest, ACopyHasNoneOfTheAttributesThatStopLaterWork) {
-  host_.Put("from", "bytes");
+  disk_.Write("from", "bytes");
   SetBits("from", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
   EXPECT_EQ(fs_.Copy("T:\\from", "T:\\to"), FileError::kNone);
   EXPECT_TRUE(fs_.Attributes("T:\\to").attributes.IsPlainFile());
@@ -55,7 +55,7 @@ TEST_F(WindowsFileSystemTest, ACopyHasNoneOfTheAttributesThatStopLaterWork) {
 }
 
 TEST_F(WindowsFileSystemTest, ClearingTakesReadOnlyHiddenAndSystemAwayAtOnce) {
-  host_.Put("file", "");
+  disk_.Write("file", "");
   SetBits("file", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
                       FILE_ATTRIBUTE_ARCHIVE);
   EXPECT_EQ(fs_.ClearAttributes("T:\\file"), FileError::kNone);
@@ -64,9 +64,9 @@ TEST_F(WindowsFileSystemTest, ClearingTakesReadOnlyHiddenAndSystemAwayAtOnce) {
 }
 
 TEST_F(WindowsFileSystemTest, AFileThatAnotherProgramHoldsIsInUse) {
-  host_.Put("held", "old");
-  host_.Put("new", "new");
-  const FileHandle held(CreateFileW(ToWide(host_ / "held").c_str(), GENERIC_READ, 0, nullptr,
+  disk_.Write("held", "old");
+  disk_.Write("new", "new");
+  const FileHandle held(CreateFileW(ToWide(disk_ / "held").c_str(), GENERIC_READ, 0, nullptr,
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   ASSERT_TRUE(held.IsOpen());
   EXPECT_EQ(fs_.Read("T:\\held", 9).error, FileError::kInUse);
@@ -80,11 +80,11 @@ TEST_F(WindowsFileSystemTest, AFileThatAnotherProgramHoldsIsInUse) {
 }
 
 TEST_F(WindowsFileSystemTest, ReplacingLeavesAHiddenTargetsNameAlone) {
-  host_.Put("Tower.vmk", "old");
-  host_.Put("~new", "new");
+  disk_.Write("Tower.vmk", "old");
+  disk_.Write("~new", "new");
   SetBits("Tower.vmk", FILE_ATTRIBUTE_HIDDEN);
   EXPECT_EQ(fs_.Rename("T:\\~new", "T:\\TOWER.VMK", RenameMode::kReplaceFile), FileError::kNone);
-  EXPECT_EQ(host_.Get("Tower.vmk"), "new");
+  EXPECT_EQ(disk_.Read("Tower.vmk"), "new");
   EXPECT_EQ(Names("T:\\*"), "Tower.vmk|");
 }
 
@@ -96,7 +96,7 @@ TEST_F(WindowsFileSystemTest, APathThatTheSystemCannotReachHasABadName) {
 }
 
 TEST_F(WindowsFileSystemTest, HostPathsAreThoseOfTheSystemInTheDisksSpelling) {
-  host_.Put("Arc/Slot/a", "");
+  disk_.Write("Arc/Slot/a", "");
   EXPECT_EQ(fs_.HostPath("t:\\arc\\slot\\A"), "T:\\Arc\\Slot\\a");
   EXPECT_EQ(fs_.HostPath("T:\\arc\\New\\\xE4"), "T:\\Arc\\New\\\xC3\xA4");
   EXPECT_EQ(fs_.HostPath("T:"), "T:\\");
