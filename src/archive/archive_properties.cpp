@@ -1,8 +1,6 @@
 #include "archive/archive_properties.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <string_view>
 
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
@@ -32,10 +30,7 @@ std::optional<std::int16_t> SlotNumberIn(const std::string& text) {
 // No disk can hold a sub-folder whose name has one of these. A file with control characters would
 // not be opened as an archive again.
 bool IsPossibleName(const std::string& base_name) {
-  return std::ranges::none_of(base_name, [](char letter) {
-    return static_cast<unsigned char>(letter) < 0x20 ||
-           std::string_view("/:*?\"<>|").find(letter) != std::string_view::npos;
-  });
+  return AreFieldText(base_name) && base_name.find_first_of("/:*?\"<>|") == std::string::npos;
 }
 
 std::string ChooseFolder(Program& program, ChooserMode mode, const std::string& shown) {
