@@ -49,6 +49,7 @@ class Copying {
   }
 
   NewArchive Run(const std::vector<std::size_t>& order, const ShowPercent& show) {
+    const auto hold = files_.HoldFolders();
     const auto count = static_cast<int>(order.size());
     for (int position = 0; position < count && !made_.stopped; ++position) {
       show(CopyingPercent(position, count, settings_.DeleteOldArchive));
