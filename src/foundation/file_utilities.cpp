@@ -102,7 +102,9 @@ FileError ReplaceFile(FileSystem& files, const std::string& path, std::string_vi
     return old.error;
   }
 
-  const std::string temporary = TemporaryNameFor(path);
+  // A link stays one: what it leads to is replaced.
+  const std::string place = files.FinalPath(path);
+  const std::string temporary = TemporaryNameFor(place);
   DeleteFileForced(files, temporary);
   if (const FileError error = files.Create(temporary, bytes); error != FileError::kNone) {
     return error;
@@ -117,7 +119,7 @@ FileError ReplaceFile(FileSystem& files, const std::string& path, std::string_vi
     files.Delete(temporary);
     return error;
   }
-  return PutInPlace(files, temporary, path);
+  return PutInPlace(files, temporary, place);
 }
 
 std::string TemporaryNameFor(const std::string& path) {

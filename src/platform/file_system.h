@@ -159,6 +159,10 @@ class FileSystem {
   // Empty when nothing of that name exists or it cannot be told.
   virtual std::optional<FileIdentity> Identity(const std::string& path) = 0;
 
+  // Where the file lies that a path leads to: another path when its name is a link that is
+  // followed, `path` itself otherwise or when a path cannot express it.
+  virtual std::string FinalPath(const std::string& path) { return path; }
+
   // ---- Writing ----
   // Each answers kNone on success. A call that fails has left the disk as it was, as far as the
   // system lets it be undone; the death of the program inside a call can leave a part of a new

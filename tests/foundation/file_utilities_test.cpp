@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "foundation/paths.h"
 #include "support/every_call.h"
+#include "support/test_drives.h"
 #include "support/test_world.h"
 
 namespace vellumark {
@@ -115,6 +118,17 @@ TEST(ReplaceFileTest, RemovesWhatACutOffRunLeftBehind) {
   EXPECT_EQ(ReplaceFile(world.files, "T:\\f", "whole"), FileError::kNone);
   EXPECT_EQ(world.disk.Read("f"), "whole");
   EXPECT_FALSE(world.disk.Exists(FileNameOf(leftover)));
+}
+
+TEST(ReplaceFileTest, ReplacesWhatALinkLeadsTo) {
+  if (!testing::DiskTakesLinks()) GTEST_SKIP() << "links take an administrator";
+  TestWorld world;
+  world.disk.Write("Elsewhere/f", "old");
+  std::filesystem::create_symlink("Elsewhere/f", world.disk.path() / "link");
+
+  EXPECT_EQ(ReplaceFile(world.files, "T:\\link", "new"), FileError::kNone);
+  EXPECT_EQ(world.disk.Read("Elsewhere/f"), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(world.disk.path() / "link"));
 }
 
 TEST(ReplaceFileTest, TakesAPathThatJustFitsARecord) {

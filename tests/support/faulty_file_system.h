@@ -48,6 +48,7 @@ class FaultyFileSystem final : public FileSystem {
   std::optional<FileIdentity> Identity(const std::string& path) override {
     return Pass("Identity", path, [&] { return real_.Identity(path); });
   }
+  std::string FinalPath(const std::string& path) override { return real_.FinalPath(path); }
   FileError Create(const std::string& path, std::string_view bytes) override {
     return Pass("Create", path, [&] { return real_.Create(path, bytes); });
   }

@@ -152,6 +152,18 @@ std::optional<FileIdentity> PosixFileSystem::Identity(const std::string& path) {
   return FileIdentity{found.status.st_dev, found.status.st_ino};
 }
 
+std::string PosixFileSystem::FinalPath(const std::string& path) {
+  const PathStatus found = Status(path);
+  struct stat status = {};
+  const bool link = found.error == FileError::kNone && lstat(found.host.c_str(), &status) == 0 &&
+                    S_ISLNK(status.st_mode);
+  if (!link) return path;
+
+  std::error_code error;
+  const std::filesystem::path target = std::filesystem::canonical(found.host, error);
+  return error ? path : FromHostPath(target.native()).value_or(path);
+}
+
 std::string PosixFileSystem::CurrentFolder() { return current_.Joined(); }
 
 FileError PosixFileSystem::SetCurrentFolder(const std::string& folder) {
