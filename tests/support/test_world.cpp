@@ -46,7 +46,7 @@ TestWorld::TestWorld(Roots more_drives)
 
 TestWorld::~TestWorld() { std::filesystem::current_path(working_folder_); }
 
-Program TestWorld::NewProgram() {
+Program TestWorld::NewProgram(Windows& shown, MainWindow& main_window) {
   Program program{.files = files,
                   .text = text,
                   .boxes = boxes,
@@ -55,8 +55,8 @@ Program TestWorld::NewProgram() {
                   .shell = shell,
                   .desktop = desktop,
                   .clipboard = clipboard,
-                  .windows = windows,
-                  .main_window = windows};
+                  .windows = shown,
+                  .main_window = main_window};
   program.paths.ProgramFolder = "T:\\Program";
   return program;
 }

@@ -33,8 +33,9 @@ class TestWorld {
   TestWorld(const TestWorld&) = delete;
   TestWorld& operator=(const TestWorld&) = delete;
 
-  // A new run of the program on the same disk.
-  Program NewProgram();
+  // A new run of the program on the same disk; the second one with real windows.
+  Program NewProgram() { return NewProgram(windows, windows); }
+  Program NewProgram(Windows& shown, MainWindow& main_window);
 
   // Writes T:\Archive.vmk with this world's folders, and a preferences file that names it.
   void WriteArchiveFile() const;

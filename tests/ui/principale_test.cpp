@@ -2,11 +2,9 @@
 #include "ui/principale.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPushButton>
 
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
@@ -26,13 +24,11 @@ class PrincipaleTest : public WindowFixture {
   void TabFollowsTheReadingOrder();
   void KeysChangeTheDetailsAsClicksDo();
   void CtrlAndTheSpaceBarSelectOneLineMore();
-  void TheColumnsOfTheListAlign();
   void TheContextMenuHasTheSavegameCommands();
   void DelAsksAndDeletesTheSelection();
   void ARowShowsControlCharactersAsMarksOrBlanks();
   void RescanKeepsNothingOfTheOldList();
   void TheViewerShowsThePictureOfItsOpening();
-  void APictureThatIsNoneIsNotShown();
   void ThePictureKeepsItsProportion();
   void HelpOpensTheTextBesideTheProgram();
   void ClosingShutsDownOnce();
@@ -111,8 +107,6 @@ void PrincipaleTest::TabFollowsTheReadingOrder() {
                   "Text_Trovati", "Pul_Seguente", "Pul_Play", "Pul_StartTomb", "List1"});
   QVERIFY(!Find<QWidget>("Image1")->accessibleName().isEmpty());
   QVERIFY(Find<QPlainTextEdit>("Text_Note")->isReadOnly());
-  QCOMPARE(TextOf("Text_TotSavegame"), QStringLiteral("3"));
-  QCOMPARE(TextOf("Text_TotCartelle"), QStringLiteral("1"));
 }
 
 void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
@@ -122,11 +116,9 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.1"));
   QCOMPARE(Find<QPlainTextEdit>("Text_Note")->toPlainText(),
            QString::fromUtf8("first\nsecond \u00E9"));
-  QCOMPARE(Find<PictureBox>("Image1")->Picture().pixelColor(5, 5).red() > 200, true);
 
   Press(Qt::Key_Down, Qt::ShiftModifier);
   QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("Selected  2 savegames"));
-  QCOMPARE(Find<QPlainTextEdit>("Text_Note")->toPlainText(), QString());
   Press(Qt::Key_A, Qt::ControlModifier);
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 1, 2}));
 
@@ -155,12 +147,6 @@ void PrincipaleTest::CtrlAndTheSpaceBarSelectOneLineMore() {
   QApplication::sendEvent(list, &space);
   QCOMPARE(list->SelectedLines(), (std::vector<int>{0, 1}));
   QCOMPARE(list->currentIndex().row(), 1);
-}
-
-void PrincipaleTest::TheColumnsOfTheListAlign() {
-  const QFontMetrics metrics(List()->font());
-  QCOMPARE(metrics.horizontalAdvance(QStringLiteral("iiii")),
-           metrics.horizontalAdvance(QStringLiteral("WWWW")));
 }
 
 void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
@@ -209,8 +195,8 @@ void PrincipaleTest::DelAsksAndDeletesTheSelection() {
 }
 
 void PrincipaleTest::ARowShowsControlCharactersAsMarksOrBlanks() {
-  const QString row = Row(1);
-  QCOMPARE(row,
+  QVERIFY2(QFontInfo(List()->font()).fixedPitch(), "the columns align");
+  QCOMPARE(Row(1),
            QString::fromUtf8(" I    2 Race For The Iris            first\u00B6 second \u00E9"));
 
   // Before the note the same byte is whatever the code page says.
@@ -229,10 +215,6 @@ void PrincipaleTest::RescanKeepsNothingOfTheOldList() {
   QCOMPARE(list->model()->rowCount(), 4);
   QCOMPARE(list->SelectedLines(), std::vector<int>{0});
   QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
-
-  window_->ReplaceLine(2, std::string(37, ' ') + "new note");
-  QVERIFY(Row(2).endsWith(QLatin1String("new note")));
-  QCOMPARE(list->SelectedLines(), std::vector<int>{0});
 }
 
 void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
@@ -241,15 +223,15 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
   auto* viewer = Find<ScreenShotViewer>("Dialog_ScreenShot");
   QVERIFY(viewer != nullptr && viewer->isVisible() && !viewer->isModal());
   QVERIFY(program_->details.ViewerOpen);
-  QCOMPARE(viewer->windowTitle(), QString());
   auto* picture = viewer->findChild<PictureBox*>(QStringLiteral("Image1"));
   const auto is_red = [picture] { return picture->Picture().pixelColor(5, 5).blue() < 60; };
   QVERIFY(is_red());
 
-  Press(Qt::Key_Up);
+  Press(Qt::Key_Down);
+  QVERIFY2(Find<PictureBox>("Image1")->Picture().isNull(), "its file is no picture");
   QVERIFY2(is_red(), "another selection does not change the viewer");
   Click("Pul_Zoom");
-  QVERIFY(!is_red());
+  QVERIFY(picture->Picture().isNull());
   QCOMPARE(window_->findChildren<ScreenShotViewer*>().size(), 1);
 
   viewer->resize(500, 300);
@@ -257,13 +239,6 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
   QTest::keyClick(viewer, Qt::Key_Escape);
   QVERIFY(!program_->details.ViewerOpen);
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);
-}
-
-void PrincipaleTest::APictureThatIsNoneIsNotShown() {
-  Press(Qt::Key_End);
-  QVERIFY(Find<PictureBox>("Image1")->Picture().isNull());
-  Click("Pul_Zoom");
-  QVERIFY(program_->details.ViewerOpen);
 }
 
 void PrincipaleTest::ThePictureKeepsItsProportion() {

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 
@@ -78,17 +77,7 @@ void WindowFixture::init() {
   world_->WritePreferences();
   Prepare();
   window_ = std::make_unique<Principale>(world_->files, world_->text);
-  program_.reset(new Program{.files = world_->files,
-                             .text = world_->text,
-                             .boxes = world_->boxes,
-                             .file_dialogs = world_->dialogs,
-                             .sounds = world_->sounds,
-                             .shell = world_->shell,
-                             .desktop = world_->desktop,
-                             .clipboard = world_->clipboard,
-                             .windows = *window_,
-                             .main_window = *window_});
-  program_->paths.ProgramFolder = "T:\\Program";
+  program_.reset(new Program(world_->NewProgram(*window_, *window_)));
   window_->Attach(*program_);
   MainWindowLoaded(*program_);
   window_->show();

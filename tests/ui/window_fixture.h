@@ -3,7 +3,10 @@
 #ifndef VELLUMARK_TESTS_UI_WINDOW_FIXTURE_H_
 #define VELLUMARK_TESTS_UI_WINDOW_FIXTURE_H_
 
+#include <QCheckBox>
 #include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QtTest>
 #include <functional>
 #include <memory>
