@@ -1,51 +1,46 @@
-// Pictures that another process has put on the clipboard.
+// Pictures on the clipboard, and what is saved of them.
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QProcess>
-#include <string>
+#include <memory>
 
-#include "desktop/offer_content.h"
 #include "desktop/pictures.h"
-#include "desktop/test_window.h"
 #include "platform/qt/qt_clipboard.h"
-#include "support/temporary_folder.h"
 
 namespace vellumark::testing {
 namespace {
 
-// Another process that owns the clipboard, until it is told to end.
-class Offering {
+// What a program has put on the clipboard, until someone asks for it.
+class Content : public QMimeData {
  public:
-  Offering(const QString& format, const QByteArray& bytes) {
-    folder_.Write("content", bytes.toStdString());
-    const QString file = QString::fromStdString((folder_.path() / "content").string());
-    process_.start(QCoreApplication::applicationFilePath(), {kOfferOption, format, file});
-    EXPECT_TRUE(process_.waitForReadyRead());
-    EXPECT_TRUE(Becomes([&] {
-      QCoreApplication::processEvents();
-      return QGuiApplication::clipboard()->mimeData()->formats().contains(format);
-    }));
-  }
-  ~Offering() {
-    process_.closeWriteChannel();
-    process_.waitForFinished();
-  }
+  Content(QString format, QByteArray bytes)
+      : format_(std::move(format)), bytes_(std::move(bytes)) {}
 
-  // Each format that the process was asked to hand over, one a line.
-  QByteArray Asked() {
-    process_.waitForReadyRead(100);
-    return process_.readAllStandardOutput();
+  QStringList formats() const override { return {format_}; }
+  bool hasFormat(const QString& format) const override { return format == format_; }
+
+  mutable int asked = 0;
+
+ protected:
+  QVariant retrieveData(const QString& /*format*/, QMetaType /*type*/) const override {
+    ++asked;
+    return bytes_;
   }
 
  private:
-  TemporaryFolder folder_;
-  QProcess process_;
+  QString format_;
+  QByteArray bytes_;
 };
+
+const Content& Offer(const QString& format, const QByteArray& bytes) {
+  auto content = std::make_unique<Content>(format, bytes);
+  const Content& offered = *content;
+  QGuiApplication::clipboard()->setMimeData(content.release());
+  return offered;
+}
 
 QByteArray Encoded(const QImage& picture, const char* format) {
   QBuffer buffer;
@@ -55,15 +50,14 @@ QByteArray Encoded(const QImage& picture, const char* format) {
 }
 
 TEST(Clipboard, GivesAPictureOfEachKind) {
-  // Large enough that it is handed over in parts.
-  const QImage picture = NoisyScene({1280, 800});
+  const QImage picture = NoisyScene({64, 48});
   struct Kind {
     const char* mime_type;
     const char* format;
   };
   for (const auto& [mime_type, format] :
        {Kind{"image/png", "PNG"}, Kind{"image/bmp", "BMP"}, Kind{"image/x-win-bitmap", "BMP"}}) {
-    const Offering other(QLatin1String(mime_type), Encoded(picture, format));
+    Offer(QLatin1String(mime_type), Encoded(picture, format));
     const ClipboardRead read = QtClipboard().ReadPicture();
     ASSERT_EQ(read.answer, ClipboardAnswer::kPicture) << mime_type;
     const auto* taken = dynamic_cast<const QtPicture*>(read.picture.get());
@@ -73,19 +67,18 @@ TEST(Clipboard, GivesAPictureOfEachKind) {
 }
 
 TEST(Clipboard, AsksForNothingThatIsNoPicture) {
-  Offering other(QStringLiteral("text/plain"), "words");
-  other.Asked();
+  const Content& words = Offer(QStringLiteral("text/plain"), "words");
   EXPECT_EQ(QtClipboard().ReadPicture().answer, ClipboardAnswer::kNoPicture);
-  EXPECT_EQ(other.Asked(), "");
+  EXPECT_EQ(words.asked, 0);
 }
 
 TEST(Clipboard, SurvivesAPictureThatIsNone) {
-  const Offering other(QStringLiteral("image/png"), "no picture at all");
+  Offer(QStringLiteral("image/png"), "no picture at all");
   EXPECT_EQ(QtClipboard().ReadPicture().answer, ClipboardAnswer::kNoPicture);
 }
 
-TEST(Clipboard, IsEmptiedForEveryProgram) {
-  const Offering other(QStringLiteral("image/png"), Encoded(NoisyScene({64, 48}), "PNG"));
+TEST(Clipboard, IsEmptied) {
+  Offer(QStringLiteral("image/png"), Encoded(NoisyScene({64, 48}), "PNG"));
   QtClipboard().Empty();
   EXPECT_EQ(QtClipboard().ReadPicture().answer, ClipboardAnswer::kNoPicture);
   EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->formats().isEmpty());

@@ -162,16 +162,6 @@ TEST_F(AnyDesktop, FailsToActivateWhatIsNotTheWindowMeant) {
   EXPECT_EQ(desktop_.ActiveWindow(), own.Handle());
 }
 
-TEST_F(ManagedDesktop, RestoresAMinimizedWindow) {
-  TestWindow game({.utf8_title = "Game", .process = kGameProcess});
-  TestWindow own({.utf8_title = "Own", .process = kOwnProcess});
-  game.Minimize();
-  ASSERT_FALSE(game.IsVisible());
-  own.TakeFocus();
-  EXPECT_EQ(desktop_.Activate(game.Handle(), kGameProcess), Activation::kActivated);
-  EXPECT_TRUE(game.IsVisible());
-}
-
 TEST_F(ManagedDesktop, FailsWhenTheDesktopRefuses) {
   const TestWindow game({.utf8_title = "Game", .process = kGameProcess, .takes_focus = false});
   TestWindow own({.utf8_title = "Own", .process = kOwnProcess});

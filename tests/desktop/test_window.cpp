@@ -4,27 +4,11 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
-#include <memory>
-#include <string_view>
 #include <thread>
 
 #include "platform/x11/x11_desktop_windows.h"
 
 namespace vellumark::testing {
-namespace {
-
-constexpr std::uint32_t kIconicState = 3;
-
-xcb_atom_t Atom(xcb_connection_t* connection, std::string_view name) {
-  const auto cookie =
-      xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-  xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection, cookie, nullptr);
-  const xcb_atom_t atom = reply == nullptr ? 0 : reply->atom;
-  std::free(reply);
-  return atom;
-}
-
-}  // namespace
 
 bool Becomes(const std::function<bool()>& holds) {
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
@@ -77,27 +61,15 @@ void TestWindow::State(const WindowTraits& traits) {
                       XCB_ATOM_WM_HINTS, 32, hints.size(), hints.data());
 }
 
-void TestWindow::SendToRoot(xcb_atom_t message, std::uint32_t value) {
-  xcb_client_message_event_t event = {};
-  event.response_type = XCB_CLIENT_MESSAGE;
-  event.format = 32;
-  event.window = window_;
-  event.type = message;
-  event.data.data32[0] = value;
-  xcb_send_event(connection_, 0, root_,
-                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                 reinterpret_cast<const char*>(&event));
-  xcb_flush(connection_);
-}
-
 void TestWindow::TakeFocusFor(WindowHandle active) {
   // Asked for once only: a request still waiting would take the focus back later.
   if (IsManaged()) {
-    SendToRoot(ewmh_._NET_ACTIVE_WINDOW, XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+    xcb_ewmh_request_change_active_window(&ewmh_, 0, window_, XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
+                                          XCB_CURRENT_TIME, XCB_NONE);
   } else {
     xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
-    xcb_flush(connection_);
   }
+  xcb_flush(connection_);
   X11DesktopWindows desktop;
   Becomes([&] { return desktop.ActiveWindow() == active; });
 }
@@ -106,11 +78,6 @@ bool TestWindow::IsManaged() {
   xcb_window_t manager = 0;
   const auto cookie = xcb_ewmh_get_supporting_wm_check(&ewmh_, root_);
   return xcb_ewmh_get_supporting_wm_check_reply(&ewmh_, cookie, &manager, nullptr) != 0;
-}
-
-void TestWindow::Minimize() {
-  SendToRoot(Atom(connection_, "WM_CHANGE_STATE"), kIconicState);
-  Becomes([this] { return !IsVisible(); });
 }
 
 bool TestWindow::IsVisible() {

@@ -36,9 +36,6 @@ class TestWindow {
   void TakeFocus() { TakeFocusFor(window_); }
   // The same for a part of another window, until that one is active.
   void TakeFocusFor(WindowHandle active);
-  // Asks the window manager to minimize it and waits until it is not to be seen.
-  void Minimize();
-  bool IsVisible();
 
   // The Enter keys that have come so far: `down` and `up` for each press and release without a
   // modifier, `other` for any other key event.
@@ -48,8 +45,8 @@ class TestWindow {
 
  private:
   bool IsManaged();
+  bool IsVisible();
   void State(const WindowTraits& traits);
-  void SendToRoot(xcb_atom_t message, std::uint32_t value);
 
   xcb_ewmh_connection_t ewmh_ = {};
   xcb_connection_t* connection_ = nullptr;
