@@ -44,6 +44,18 @@ link_screen_shot() {
   wait_until_in_front "$game_title"
 }
 
+# Plays a savegame without note and screen-shot and one with both, in a game folder that the game
+# knows by this name.
+play_two() {
+  select_lines 2 17
+  press_in "$main" ctrl+p
+  wait_until_in_front "$game_title"
+  wait_for_log 1 "folder $1"
+  wait_for_log 2 'slot .*'
+  wait_for_log 1 'slot savegame.0 5 Angkor Wat'
+  wait_for_log 1 'slot savegame.1 29 Temple Of Karnak'
+}
+
 # Selects lines of the main window's list, counted from 0 and in rising order, by the keyboard.
 select_lines() {
   local at=$1 line
