@@ -167,10 +167,5 @@ TEST(CodePageText, TurkishRulesHoldForTextAndNeverForPaths) {
   EXPECT_TRUE(SameButForCase(MakeText(1252, "tr"), "I", "i"));
 }
 
-TEST(CodePageText, NamesOfDifferentLengthsAreNotEqual) {
-  EXPECT_FALSE(MakeText(1252).EqualNoCase("save", "SAVES"));
-  EXPECT_FALSE(MakeText(1252).EqualNoCase("", "a"));
-}
-
 }  // namespace
 }  // namespace vellumark

@@ -35,19 +35,11 @@ TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
   const std::tuple<std::string_view, int, bool, std::string_view> cases[] = {
       {"", 1252, false, ""},
       {"C", 1252, false, ""},
-      {"C.UTF-8", 1252, false, ""},
-      {"POSIX", 1252, false, ""},
       {"de_DE.UTF-8@euro", 1252, false, "de"},
       {"pl_PL.UTF-8", 1250, false, "pl"},
-      {"cs", 1250, false, "cs"},
-      {"hr_HR", 1250, false, "hr"},
       {"hrx_BR", 1252, false, "hrx"},
-      {"h", 1252, false, "h"},
       {"sr_RS", 1251, false, "sr"},
-      {"sr_RS@latin", 1250, false, "sr"},
       {"sr_RS.UTF-8@latin", 1250, false, "sr"},
-      {"sr@latin", 1250, false, "sr"},
-      {"bs_BA.UTF-8", 1250, false, "bs"},
       {"uz_UZ.UTF-8", 1252, false, "uz"},
       {"uz_UZ.UTF-8@cyrillic", 1251, false, "uz"},
       {"RU_RU.KOI8-R", 1251, false, "ru"},
@@ -59,7 +51,6 @@ TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
       {"vi_VN", 1258, false, "vi"},
       {"th_TH", 874, false, "th"},
       {"ja_JP.UTF-8", 1252, true, "ja"},
-      {"zh_TW", 1252, true, "zh"},
   };
   for (const auto& [locale, code_page, substitute, language] : cases) {
     SCOPED_TRACE(locale);
@@ -71,24 +62,17 @@ TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
 }
 
 TEST(CodePageChoice, TheFirstVariableThatIsNotEmptyNamesTheLocale) {
-  std::map<std::string, std::string> variables;
-  const auto locale_name = [&] {
-    return LocaleName([&](const char* name) -> const char* {
+  using Variables = std::map<std::string_view, const char*>;
+  const auto locale_name = [](const Variables& variables) {
+    return LocaleName([&](const char* name) {
       const auto found = variables.find(name);
-      return found == variables.end() ? nullptr : found->second.c_str();
+      return found == variables.end() ? nullptr : found->second;
     });
   };
-  EXPECT_EQ(locale_name(), "");
-
-  variables["LANG"] = "pl_PL";
-  variables["LC_ALL"] = "";
-  EXPECT_EQ(locale_name(), "pl_PL");
-
-  variables["LC_CTYPE"] = "el_GR";
-  EXPECT_EQ(locale_name(), "el_GR");
-
-  variables["LC_ALL"].assign(1, 'C');
-  EXPECT_EQ(locale_name(), "C");
+  EXPECT_EQ(locale_name({}), "");
+  EXPECT_EQ(locale_name({{"LANG", "pl_PL"}, {"LC_ALL", ""}}), "pl_PL");
+  EXPECT_EQ(locale_name({{"LANG", "pl_PL"}, {"LC_CTYPE", "el_GR"}}), "el_GR");
+  EXPECT_EQ(locale_name({{"LC_CTYPE", "el_GR"}, {"LC_ALL", "C"}}), "C");
 }
 
 }  // namespace

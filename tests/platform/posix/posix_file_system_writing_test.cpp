@@ -161,12 +161,5 @@ TEST_F(PosixFileSystemTest, HeldFoldersShowWhatWasDoneToThem) {
   EXPECT_EQ(disk_.Read("Arc/b"), "x");
 }
 
-TEST_F(PosixFileSystemTest, ALinkToAFolderIsNeitherDeletedNorRemoved) {
-  disk_.Write("Arc/a", "x");
-  stdfs::create_directory_symlink("Arc", disk_ / "link");
-  ExpectRefused(FileError::kAccessDenied, {[&] { return fs_.Delete("T:\\link"); }});
-  ExpectRefused(FileError::kNotFound, {[&] { return fs_.RemoveFolder("T:\\link"); }});
-}
-
 }  // namespace
 }  // namespace vellumark
