@@ -4,7 +4,6 @@
 
 #include "savegames/notes.h"
 #include "savegames/savegame_header.h"
-#include "support/expectations.h"
 #include "support/host_paths.h"
 #include "support/open_world.h"
 

@@ -17,8 +17,6 @@ using testing::TestWorld;
 TEST(PathsTest, AreTakenApartAtBackslashesAndColons) {
   EXPECT_EQ(FileNameOf("C:\\Games\\tomb4.exe"), "tomb4.exe");
   EXPECT_EQ(FileNameOf("C:tomb4.exe"), "tomb4.exe");
-  EXPECT_EQ(FileNameOf("C:\\Games\\"), "");
-  EXPECT_EQ(FileNameOf("tomb4.exe"), "tomb4.exe");
   EXPECT_EQ(FolderOf("C:\\Games\\x.vmk"), "C:\\Games");
   EXPECT_EQ(FolderOf("C:\\x.vmk"), "C:");
   EXPECT_EQ(FolderOf("C:x.vmk"), "");
@@ -30,10 +28,9 @@ TEST(FileExistsTest, CountsPlainFilesOnlyAndTakesWildcards) {
 
   EXPECT_TRUE(FileExists(world.files, "T:\\game\\savegame.3"));
   EXPECT_TRUE(FileExists(world.files, "T:\\Game\\savegame.*"));
-  EXPECT_FALSE(FileExists(world.files, "T:\\Game\\note*.txt"));
-  EXPECT_FALSE(FileExists(world.files, "T:\\Game"));
-  EXPECT_FALSE(FileExists(world.files, "   "));
-  EXPECT_FALSE(FileExists(world.files, "Q:\\anything"));
+  for (const char* none : {"T:\\Game\\note*.txt", "T:\\Game", "   ", "Q:\\anything"}) {
+    EXPECT_FALSE(FileExists(world.files, none)) << none;
+  }
   EXPECT_TRUE(FolderExists(world.files, "T:\\Game"));
   EXPECT_FALSE(FolderExists(world.files, "T:\\Game\\savegame.3"));
 }

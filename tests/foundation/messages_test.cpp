@@ -40,13 +40,9 @@ TEST(LoadMessageTest, AValueTakesInTheValuesOfLaterPlaceholdersButNotOfItsOwn) {
 TEST(MessageTableTest, IsSortedAndKeepsBlanksAndSpelling) {
   EXPECT_TRUE(std::ranges::is_sorted(MessageTable(), {}, &TableMessage::number));
   EXPECT_TRUE(std::ranges::is_sorted(OwnMessageTable(), {}, &TableMessage::number));
-  EXPECT_EQ(MessageTable().front().number, 101);
-  EXPECT_EQ(MessageTable().back().number, 331);
   EXPECT_EQ(MessageTable().size(), 221U);
   EXPECT_EQ(LoadMessage(226), "Start Tomb Raider ");
   EXPECT_EQ(LoadMessage(243), "Import  savegames from Tomb Raider folder");
-  EXPECT_TRUE(LoadMessage(225).starts_with(" ") &&
-              LoadMessage(225).find("Vellumark") != std::string::npos);
 }
 
 TEST(OwnMessagesTest, EveryReasonHasWords) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/expectations.h"
 #include "support/open_world.h"
 
 namespace vellumark {
@@ -51,15 +50,6 @@ TEST_F(DeleteSelectedTest, DoesNothingWithoutASelectionOrAfterNo) {
   EXPECT_EQ(TakeRefusal(), "No selected savegame");
   EXPECT_EQ(disk.AllFiles(), before);
   EXPECT_FALSE(program.archive.ArchiveChanged);
-}
-
-TEST_F(DeleteSelectedTest, SkipsWhatIsMissingAndTakesWhatIsReadOnly) {
-  disk.Remove({"Archive/Slot1/savegame.1"});
-  disk.MakeReadOnly("Archive/Slot1/savegame.2");
-  disk.MakeReadOnly("Archive/Slot1/note2.txt");
-  Delete({1, 2});
-  EXPECT_EQ(disk.Listed("Archive/Slot1"), "savegame.0|");
-  EXPECT_EQ(boxes.shown.back().text, "Removed 2 savegames");
 }
 
 TEST_F(DeleteSelectedTest, NamesWhatCannotBeDeletedAndListsItStill) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "maintenance/folder_chooser.h"
-#include "support/expectations.h"
 #include "support/open_world.h"
 
 namespace vellumark {

@@ -5,7 +5,6 @@
 #include <map>
 #include <tuple>
 
-#include "support/expectations.h"
 #include "support/open_world.h"
 
 namespace vellumark {

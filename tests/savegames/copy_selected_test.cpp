@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/expectations.h"
 #include "support/open_world.h"
 #include "support/test_drives.h"
 
@@ -106,20 +105,6 @@ TEST_F(CopySavegamesTest, WhatACopyReplacesIsSetAsideInOneFolder) {
   ExpectWhole("Target", 5, "Archive/Slot1", 5);
 }
 
-TEST_F(CopySavegamesTest, WhatCannotBeSetAsideIsNotReplaced) {
-  disk.Write("Program/rescued", "a file in the way");
-  disk.Write("Target/savegame.2", "another savegame");
-  disk.Write("Target/note5.txt", "another note");
-  const SelectedCopies copies = Copy({two, five}, "Target", false, CopyMode::kMove);
-  EXPECT_EQ(disk.Read("Target/savegame.2"), "another savegame");
-  EXPECT_EQ(disk.Read("Target/note5.txt"), "another note");
-  ASSERT_EQ(copies.not_copied.size(), 2U);
-  EXPECT_EQ(copies.not_copied[0].path, two.savegame);
-  EXPECT_EQ(copies.not_copied[1].path, five.note);
-  ExpectWhole("Archive/Slot1", 2, "Archive/Slot1", 2);
-  ExpectWhole("Archive/Slot1", 5, "Archive/Slot1", 5);
-}
-
 TEST_F(CopySavegamesTest, AMissingSavegameIsNamedAndTheNextTakesItsNumber) {
   disk.Remove({"Archive/Slot1/savegame.2", "Archive/Slot1/note5.txt"});
   disk.Write("Target/savegame.0", "zero");
@@ -133,12 +118,7 @@ TEST_F(CopySavegamesTest, AMissingSavegameIsNamedAndTheNextTakesItsNumber) {
 
 TEST_F(CopySavegamesTest, AMoveFlushesOnceAndDeletesTheSources) {
   int flushes = 0;
-  files.meanwhile = [&](const std::string& operation) {
-    if (operation == "Flush") ++flushes;
-    if (operation == "Delete" && flushes == 0) {
-      EXPECT_FALSE(disk.Names("Archive/Slot2").empty());
-    }
-  };
+  files.meanwhile = [&](const std::string& operation) { flushes += operation == "Flush" ? 1 : 0; };
   disk.MakeReadOnly("Archive/Slot1/savegame.5");
   const SelectedCopies copies = Copy({two, five, other_five}, "Target", true, CopyMode::kMove);
   EXPECT_EQ(flushes, 1);

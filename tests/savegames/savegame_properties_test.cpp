@@ -5,7 +5,6 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "savegames/details.h"
-#include "support/expectations.h"
 #include "support/open_world.h"
 
 namespace vellumark {

@@ -1,10 +1,11 @@
-// A world whose program has the archive open and plays sounds.
+// A world whose program has the archive open and plays sounds, with what its tests expect of it.
 #ifndef VELLUMARK_TESTS_SUPPORT_OPEN_WORLD_H_
 #define VELLUMARK_TESTS_SUPPORT_OPEN_WORLD_H_
 
 #include <map>
 #include <string>
 
+#include "support/expectations.h"
 #include "support/test_world.h"
 
 namespace vellumark::testing {
