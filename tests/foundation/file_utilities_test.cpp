@@ -17,6 +17,7 @@ using testing::TestWorld;
 TEST(PathsTest, AreTakenApartAtBackslashesAndColons) {
   EXPECT_EQ(FileNameOf("C:\\Games\\tomb4.exe"), "tomb4.exe");
   EXPECT_EQ(FileNameOf("C:tomb4.exe"), "tomb4.exe");
+  EXPECT_EQ(FileNameOf("tomb4.exe"), "tomb4.exe");
   EXPECT_EQ(FolderOf("C:\\Games\\x.vmk"), "C:\\Games");
   EXPECT_EQ(FolderOf("C:\\x.vmk"), "C:");
   EXPECT_EQ(FolderOf("C:x.vmk"), "");

@@ -200,6 +200,14 @@ TEST_F(StartUpTest, ForeignContentIsNotTakenForAnArchive) {
   EXPECT_EQ(disk.Read("Archive.vmk"), foreign);
 }
 
+TEST_F(StartUpTest, CaptionsComeFirstAndTheOpeningSoundLast) {
+  WritePreferences(/*sounds=*/true);
+  Program program = NewProgram();
+  MainWindowLoaded(program);
+  EXPECT_EQ(windows.events.size(), 9U);
+  EXPECT_EQ(sounds.played, std::vector{files.HostPath("T:\\Program\\s7.wav")});
+}
+
 // Savegames in the archive, and own slots that the last run has left in the backup folder.
 class LeftBackup : public StoredWorld {
  public:

@@ -257,6 +257,11 @@ TEST_F(CaptureTest, LinksToThePlayedSavegameInTheArchiveToo) {
   EXPECT_EQ(program.selection.indices, (std::vector<std::int16_t>{0}));
 
   EndCapture(program);
+  OpenDialog("another picture for the same slot");
+  EXPECT_EQ(Link(1), LinkAnswer::kLinked);
+  EXPECT_EQ(Placed("shot1.jpg"), "another picture for the same slot");
+
+  EndCapture(program);
   OpenDialog();
   EXPECT_EQ(Link(3, "mine"), LinkAnswer::kLinked);
   EXPECT_EQ(InGame("note3.txt"), "mine\r\n");

@@ -55,6 +55,7 @@ TEST_F(DiskTest, ListsInAlphabeticalOrderWithoutCase) {
 
   ASSERT_EQ(Names("T:\\*"), "A.vmk|a2.VMK|b.vmk|c|Sub|");
   EXPECT_EQ(Names("T:\\"), Names("T:\\*"));
+  EXPECT_EQ(Names("T:\\*.*"), Names("T:\\*"));
   EXPECT_EQ(Names("T:\\*.VMK"), "A.vmk|a2.VMK|b.vmk|");
   EXPECT_EQ(Names("T:\\B.VMK"), "b.vmk|");
   EXPECT_EQ(Names("T:\\sub\\*"), "x|");

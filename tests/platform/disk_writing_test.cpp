@@ -30,6 +30,7 @@ TEST_F(DiskWritingTest, CreateMakesAFileOnlyWhereTheNameIsFreeInAnyCase) {
                                             [&] { return fs_.CreateFolder("T:\\ARC"); },
                                             [&] { return fs_.CreateFolder("T:\\"); }});
   EXPECT_EQ(fs_.Create("T:\\none\\a", ""), FileError::kNotFound);
+  EXPECT_EQ(fs_.Create("T:\\Arc\\taken.vmk\\a", ""), FileError::kNotFound);
 }
 
 TEST_F(DiskWritingTest, NamesThatWindowsCouldNotHoldAreNotMade) {

@@ -35,6 +35,7 @@ TEST(CodePageChoice, EachLanguageHasTheCodePageOfWindows) {
   const std::tuple<std::string_view, int, bool, std::string_view> cases[] = {
       {"", 1252, false, ""},
       {"C", 1252, false, ""},
+      {"POSIX", 1252, false, ""},
       {"de_DE.UTF-8@euro", 1252, false, "de"},
       {"pl_PL.UTF-8", 1250, false, "pl"},
       {"hrx_BR", 1252, false, "hrx"},
