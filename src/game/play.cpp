@@ -121,6 +121,7 @@ bool PutOwnSlotsAside(Program& program, const std::string& game_folder, bool ano
     return false;
   }
   program.play.placed.clear();
+  program.play.brought.clear();
   return true;
 }
 

@@ -31,13 +31,20 @@ std::string BackupCopyOf(const Program& program, const std::string& path) {
   return InFolder(program.play.BackupFolder, FileNameOf(path));
 }
 
+bool WasBrought(const Program& program, const std::string& path) {
+  return std::ranges::any_of(program.play.brought, [&](const std::string& name) {
+    return SamePath(program.text, name, FileNameOf(path));
+  });
+}
+
 // Where else there is what a file of the game folder holds.
 Kept WhereKept(Program& program, const std::string& path, bool is_backed_up) {
   const PlayState& play = program.play;
   if (is_backed_up && SameContent(program.files, path, BackupCopyOf(program, path))) {
     return Kept::kInBackup;
   }
-  if (play.placed.empty()) return Kept::kNowhere;
+  // The archive may have given away what the user brought.
+  if (play.placed.empty() || WasBrought(program, path)) return Kept::kNowhere;
   const ReadResult file = program.files.Read(path, FileSystem::kWholeFile);
   if (file.error != FileError::kNone) return Kept::kNowhere;
   const auto placed = std::ranges::find(play.placed, file.bytes, &PlacedFile::bytes);
@@ -65,6 +72,14 @@ void GiveToBackup(Program& program, const std::vector<std::string>& paths, SlotC
   for (const std::string& path : left) clearing.failures.push_back({path, flush});
 }
 
+// Also true where the disk does not tell.
+bool MayBeSameFolder(Program& program, const std::string& a, const std::string& b) {
+  if (SamePath(program.text, a, b)) return true;
+  const auto first = program.files.Identity(a);
+  const auto second = program.files.Identity(b);
+  return !first || !second || first == second;
+}
+
 }  // namespace
 
 SlotClearing ClearGameSlots(Program& program, const std::string& game_folder) {
@@ -88,7 +103,15 @@ SlotClearing ClearGameSlots(Program& program, const std::string& game_folder) {
 
   DeleteAll(program, paths[Kept::kInArchive], clearing);
   GiveToBackup(program, paths[Kept::kInBackup], clearing);
+  program.play.brought.clear();
   return clearing;
+}
+
+void RememberBrought(Program& program, const std::string& folder,
+                     const std::vector<std::string>& paths) {
+  PlayState& play = program.play;
+  if (!play.ExaminedInGameFolder || !MayBeSameFolder(program, folder, play.backup_of)) return;
+  for (const std::string& path : paths) play.brought.push_back(FileNameOf(path));
 }
 
 }  // namespace vellumark

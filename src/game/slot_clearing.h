@@ -19,8 +19,13 @@ struct SlotClearing {
 
 // Clears the slots of a game folder that was backed up. A file is deleted only when it is equal to
 // the backup's file of that name, or to one that a play has put there; all others were saved by the
-// game meanwhile and are set aside. Nothing is deleted when that fails.
+// game meanwhile, or brought by the user, and are set aside. Nothing is deleted when that fails.
 SlotClearing ClearGameSlots(Program& program, const std::string& game_folder);
+
+// The user has put these files into a folder. When it is the game folder whose slots were backed
+// up, they are his own from now on, even if a play has put equal ones there.
+void RememberBrought(Program& program, const std::string& folder,
+                     const std::vector<std::string>& paths);
 
 }  // namespace vellumark
 

@@ -9,6 +9,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "game/slot_clearing.h"
 #include "maintenance/target_savegames.h"
 #include "program.h"
 
@@ -85,6 +86,7 @@ bool CopyOrMoveInto(Program& program, const std::string& folder, CopyMode mode) 
   {
     const WorkScope working(program);
     copies = CopySavegames(program, savegames, folder, renumber, mode);
+    RememberBrought(program, folder, copies.targets);
   }
   if (mode == CopyMode::kMove) {
     ScanArchive(program);

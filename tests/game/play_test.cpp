@@ -13,6 +13,7 @@
 #include "game/examined.h"
 #include "game/restore.h"
 #include "game/running_game.h"
+#include "maintenance/copy_move.h"
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
 #include "support/every_call.h"
@@ -169,6 +170,23 @@ TEST_F(PlayTest, ASecondPlayKeepsTheBackupAndSetsAsideWhatTheGameSaved) {
       (Files{{"savegame.1", saved}, {"savegame.7", saved + "7"}, {"shot7.jpg", "new picture"}}));
   EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\rescued\\1\""));
   EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
+TEST_F(PlayTest, ASavegameThatIsMovedIntoTheGameFolderOutlivesTheRestore) {
+  for (const bool beside_its_equal : {true, false}) {
+    SCOPED_TRACE(beside_its_equal);
+    PlayWorld world;
+    const Files before = world.disk.AllFiles();
+    world.Play({0});
+    world.program->chooser.savegames = FilesOf(world.program->catalogue, {0});
+    // The answers renumber it and keep what is there, or let its equal go.
+    world.boxes.answers = {BoxAnswer::kYes, beside_its_equal ? BoxAnswer::kYes : BoxAnswer::kNo};
+    CopyOrMoveInto(*world.program, "T:\\Game", CopyMode::kMove);
+    EXPECT_FALSE(world.disk.Exists("Archive/Slot1/savegame.5"));
+    world.Restore(BoxAnswer::kYes);
+    EXPECT_TRUE(Contains(world.boxes.AllTexts(), "T:\\Program\\rescued\\1"));
+    testing::ExpectNothingLost(before, world.disk);
+  }
 }
 
 TEST_F(PlayTest, RestoresAndSetsAsideSlotsThatAreLinks) {
