@@ -81,7 +81,11 @@ class Export {
  private:
   void FindShots() {
     for (const SavegameEntry& entry : program_.catalogue.entries) {
-      if (!FileExists(files_, entry.ShotPath)) continue;
+      const AttributesResult found = files_.Attributes(entry.ShotPath);
+      const bool unknown = found.error != FileError::kNone && found.error != FileError::kNotFound &&
+                           found.error != FileError::kAmbiguous;
+      if (unknown) failures_.push_back({entry.ShotPath, found.error});
+      if (found.error != FileError::kNone || !found.attributes.IsPlainFile()) continue;
       entries_.push_back(&entry);
       if (const auto identity = files_.Identity(entry.ShotPath)) {
         linked_.emplace(identity->device, identity->index);

@@ -3,7 +3,6 @@
 #include <optional>
 #include <utility>
 
-#include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/paths.h"
 #include "maintenance/reorder_order.h"
@@ -112,11 +111,19 @@ class Copying {
   // True when the savegame itself has arrived.
   bool CopyEntry(const SavegameEntry& entry, int slot) {
     const bool arrived = CopyFile(spelling_.Of(entry.SavegamePath), SavegameFileName(slot));
-    const std::string note = spelling_.Of(entry.NotePath);
-    if (FileExists(files_, note)) CopyFile(note, NoteFileName(slot));
-    const std::string shot = spelling_.Of(entry.ShotPath);
-    if (FileExists(files_, shot)) CopyFile(shot, ShotFileName(slot));
+    CopyIfThere(spelling_.Of(entry.NotePath), NoteFileName(slot));
+    CopyIfThere(spelling_.Of(entry.ShotPath), ShotFileName(slot));
     return arrived;
+  }
+
+  // One of which the disk does not tell whether it is there must not count as missing.
+  void CopyIfThere(const std::string& source, const std::string& name) {
+    const AttributesResult found = files_.Attributes(source);
+    if (found.error == FileError::kNone) {
+      if (found.attributes.IsPlainFile()) CopyFile(source, name);
+    } else if (found.error != FileError::kNotFound && found.error != FileError::kAmbiguous) {
+      made_.not_copied.push_back({source, found.error});
+    }
   }
 
   bool CopyFile(const std::string& source, const std::string& name) {

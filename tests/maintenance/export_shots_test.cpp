@@ -81,6 +81,17 @@ TEST_F(ExportShotsTest, FailuresCountAndAreNamedOnceAtTheEnd) {
   EXPECT_TRUE(disk.Exists("Shots/Maze_4.jpg"));
 }
 
+TEST_F(ExportShotsTest, AScreenShotThatCannotBeLookedUpIsNamed) {
+  Add("Archive/Slot1", 0, "Tower", 3);
+  Add("Archive/Slot1", 1, "Maze", 4);
+  Rescan();
+  files.FailAlways("Attributes", "\\shot1.jpg", FileError::kNotReady);
+  ExportLinkedShots(program, "T:\\Shots");
+  ASSERT_EQ(boxes.shown.size(), 2U);
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "\\shot1.jpg\": "));
+  EXPECT_TRUE(disk.Exists("Shots/Tower_3.jpg"));
+}
+
 TEST_F(ExportShotsTest, TheChooserExportsIntoItsFolderAndKeepsItForTheNextTime) {
   Add("Archive/Slot1", 0, "Tower", 3);
   Rescan();

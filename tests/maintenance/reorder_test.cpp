@@ -210,6 +210,13 @@ TEST_F(ReorderTest, AFailedCopyCostsNeitherItsEqualNorTheOldArchive) {
   EXPECT_TRUE(Contains(report, "nothing has been deleted from the old archive in \"T:\\Archive\""));
 }
 
+TEST_F(ReorderTest, ANoteThatCannotBeLookedUpIsNamedAsNotCopied) {
+  disk.Write("Archive/Slot1/note4.txt", "mine\r\n");
+  files.FailAlways("Attributes", "Slot1\\note4.txt", FileError::kInputOutput);
+  ASSERT_TRUE(Reorder());
+  EXPECT_TRUE(Contains(boxes.shown.back().text, "\\Slot1\\note4.txt\": "));
+}
+
 TEST_F(ReorderTest, DeletesTheOldArchiveWhenEverythingIsSafe) {
   disk.Write("Archive/Slot2/readme.txt", "mine");
   disk.Write("Archive/Slot1/note9.txt", "of no savegame");
