@@ -64,7 +64,10 @@ using Failures = std::vector<Failure>;
 // False when that failed; `kept` is where it is now, empty when there was none.
 bool KeepUnseenNote(Program& program, const SavegameChanges& changes, std::string& kept) {
   const std::string& path = EntryAt(program, changes.index).NotePath;
-  const std::string note = ReadNoteFile(program.files, path);
+  const ReadResult read = program.files.Read(path, FileSystem::kWholeFile);
+  if (read.error == FileError::kNotFound) return true;
+  if (read.error != FileError::kNone) return false;
+  const std::string note = DecodeNote(read.bytes);
   if (note.empty() || note == changes.shown_note || note == changes.note->stored) return true;
   const auto backup = KeepBackupOf(program.files, path);
   if (backup) kept = *backup;
@@ -75,9 +78,14 @@ bool StoreNote(Program& program, const SavegameChanges& changes, Failures& failu
                std::string& kept) {
   SavegameEntry& entry = EntryAt(program, changes.index);
   // The list may show another note than the file holds by now, which the user has not touched.
-  const bool stale = !changes.note && FileExists(program.files, entry.NotePath) &&
-                     ReadNoteFile(program.files, entry.NotePath) != entry.NoteText;
-  if (stale) return true;
+  if (!changes.note) {
+    const ReadResult now = program.files.Read(entry.NotePath, FileSystem::kWholeFile);
+    if (now.error == FileError::kNone && DecodeNote(now.bytes) != entry.NoteText) return true;
+    if (now.error != FileError::kNone && now.error != FileError::kNotFound) {
+      failures.push_back({entry.NotePath, now.error});
+      return false;
+    }
+  }
   const std::string note = changes.note ? changes.note->stored : entry.NoteText;
   const bool safe = !changes.note || KeepUnseenNote(program, changes, kept);
   const FileError error =

@@ -54,6 +54,22 @@ class SavegamePropertiesTest : public ::testing::Test, public OpenWorld {
   }
 };
 
+TEST_F(SavegamePropertiesTest, NoFailingCallCostsANoteThatTheDialogHasNotShown) {
+  for (const bool typed : {false, true}) {
+    for (int call = 1; call <= 20; ++call) {
+      SCOPED_TRACE(::testing::Message() << "call " << call << (typed ? ", a note was typed" : ""));
+      const std::string unseen = "unseen " + std::to_string(call);
+      disk.Write("Archive/note3.txt", unseen + "\r\n");
+      entry().NoteText = typed ? "old\x8D\nnote" : "";
+      files.FailCall(call, FileError::kInputOutput);
+      Apply("12", typed ? std::optional(TypedNote{.stored = "mine"}) : std::nullopt);
+      std::string all;
+      for (const auto& [name, bytes] : disk.AllFiles("Archive")) all += bytes;
+      EXPECT_TRUE(Contains(all, unseen + "\r\n"));
+    }
+  }
+}
+
 TEST_F(SavegamePropertiesTest, OpenForExactlyOneSelectedSavegame) {
   ShowSavegameProperties(program);
   for (const std::vector<std::int16_t>& selected : {std::vector<std::int16_t>{}, {0, 1}}) {
