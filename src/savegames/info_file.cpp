@@ -20,10 +20,13 @@ constexpr const char* kBlankLine = "\r\r\n";
 InfoResult WriteInfoSection(Program& program, const std::string& folder,
                             const std::string& info_file, InfoMode mode) {
   InfoResult result;
+  const auto reader = program.files.OpenFolder(folder);
+  // A list without savegames would tell that the folder has none.
+  result.error = reader->Contents().error;
+  if (result.error != FileError::kNone && result.error != FileError::kNotFound) return result;
+
   std::string section = program.text.Upper(folder) + kLineEnd;
   section += std::string(folder.size() + 1, '-') + kLineEnd + kBlankLine;
-
-  const auto reader = program.files.OpenFolder(folder);
   const int max_savegame = program.archive.settings.MaxSavegame;
   for (const Slot& slot : SlotsOf(reader->Contents(), max_savegame).slots) {
     ++result.listed;

@@ -18,7 +18,8 @@ struct InfoResult {
   FileError error = FileError::kNone;
 };
 
-// Writes the section of one folder into an info file: over an older file, or at its end.
+// Writes the section of one folder into an info file: over an older file, or at its end. Nothing is
+// written when the folder is there but cannot be listed.
 InfoResult WriteInfoSection(Program& program, const std::string& folder,
                             const std::string& info_file, InfoMode mode);
 

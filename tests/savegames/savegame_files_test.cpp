@@ -134,6 +134,11 @@ TEST(InfoSectionTest, ListsTheSlotsInTheirColumns) {
   WriteInfoSection(program, "T:\\Archive\\Slot1", info, InfoMode::kCreate);
   EXPECT_EQ(world.disk.Read("Archive/info.txt"), section);
 
+  world.files.FailAlways("OpenFolder", "\\Slot1", FileError::kAccessDenied);
+  EXPECT_EQ(WriteInfoSection(program, "T:\\Archive\\Slot1", info, InfoMode::kCreate).error,
+            FileError::kAccessDenied);
+  EXPECT_EQ(world.disk.Read("Archive/info.txt"), section);
+
   const InfoResult none = WriteInfoSection(program, "T:\\None", info, InfoMode::kCreate);
   EXPECT_EQ(none.listed, 0);
   EXPECT_EQ(world.disk.Read("Archive/info.txt"), "T:\\NONE\r\n--------\r\n\r\r\n\r\r\n");
