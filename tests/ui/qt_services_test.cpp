@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -28,6 +29,7 @@ class QtServicesTest : public QObject {
   void MessageBoxesAnswerKeys();
   void MessageBoxesShowTextAsItIs();
   void ALongTextScrolls();
+  void ALongPathIsNotCutOff();
   void FileDialogsStartWhereTheyAreTold();
   void FileDialogsExplainAPathThatCannotBeUsed();
   void TheShellRefusesWhatIsMissing();
@@ -93,6 +95,24 @@ void QtServicesTest::ALongTextScrolls() {
     box->accept();
   });
   QtMessageBoxes(world_.text).Show(text, BoxButtons::kOk, BoxIcon::kCritical);
+}
+
+void QtServicesTest::ALongPathIsNotCutOff() {
+  std::string path = "Z:";
+  for (int i = 0; i < 25; ++i) path += "\\folder-" + std::to_string(i);
+  path += "\\the-end";
+  WithNext<QMessageBox>([&path](QMessageBox* box) {
+    const auto* shown = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    QVERIFY(shown->width() >= shown->minimumSizeHint().width());
+    QVERIFY(shown->text().startsWith(QLatin1String("It is in Z:\\folder-0\\")));
+    QVERIFY(shown->text().endsWith(QLatin1String("\\the-end, all of it")));
+    auto* whole = box->findChild<QTextEdit*>();
+    QVERIFY(whole != nullptr && whole->isVisible());
+    QVERIFY(whole->toPlainText().contains(QString::fromStdString(path)));
+    box->accept();
+  });
+  QtMessageBoxes(world_.text)
+      .Show("It is in " + path + ", all of it", BoxButtons::kOk, BoxIcon::kNone);
 }
 
 void QtServicesTest::FileDialogsStartWhereTheyAreTold() {

@@ -1,7 +1,9 @@
 #include "platform/qt/qt_message_boxes.h"
 
 #include <QAbstractButton>
+#include <QFontMetrics>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
@@ -34,14 +36,35 @@ QMessageBox::Icon IconFor(BoxIcon icon) {
   return QMessageBox::Warning;
 }
 
-// A text of many lines would make the box higher than the screen: the box then shows its beginning,
-// and the whole text below in a field that scrolls.
+// The text with the middle left out of each word that no box on this screen has room for: a path
+// without blanks is one word.
+QString WithWordsThatFit(const QMessageBox& box, const QString& text) {
+  const int widest = box.screen()->availableGeometry().width() / 2;
+  const QFontMetrics metrics = box.fontMetrics();
+  QString fitting;
+  for (qsizetype at = 0; at < text.size();) {
+    qsizetype end = at;
+    while (end < text.size() && !text[end].isSpace()) ++end;
+    fitting += metrics.elidedText(text.sliced(at, end - at), Qt::ElideMiddle, widest);
+    if (end < text.size()) fitting += text[end++];
+    at = end;
+  }
+  return fitting;
+}
+
+// A text of many lines would make the box higher than the screen, and a long path would be cut off:
+// the box then shows the beginning, or the ends of the path, and the whole text below in a field
+// that scrolls.
 void SetLongText(QMessageBox& box, const QString& text) {
   constexpr int kMostLines = 14;
   constexpr int kLinesAbove = 4;
-  if (text.count(u'\n') < kMostLines) return;
+  QString shown = WithWordsThatFit(box, text);
+  if (shown.count(u'\n') >= kMostLines) {
+    shown = shown.section(u'\n', 0, kLinesAbove - 1) + QStringLiteral("\n...");
+  }
+  if (shown == text) return;
 
-  box.setText(text.section(u'\n', 0, kLinesAbove - 1) + QStringLiteral("\n..."));
+  box.setText(shown);
   box.setDetailedText(text);
   for (QAbstractButton* button : box.buttons()) {
     if (box.buttonRole(button) == QMessageBox::ActionRole) button->click();
