@@ -1,10 +1,12 @@
 #include "ui/savegame_list.h"
 
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "ui/fonts.h"
@@ -80,6 +82,20 @@ void SavegameList::selectionChanged(const QItemSelection& selected,
   if (own_change_) return;
   told_ = true;
   emit SelectionTouched();
+}
+
+// At the first or last line, the keys that lead there have nowhere to go, but select it alone all
+// the same.
+void SavegameList::keyPressEvent(QKeyEvent* event) {
+  constexpr int kMoves[] = {Qt::Key_Up,   Qt::Key_PageUp,   Qt::Key_Home,
+                            Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End};
+  const QModelIndex before = currentIndex();
+  QListView::keyPressEvent(event);
+  const bool moves = std::ranges::find(kMoves, event->key()) != std::end(kMoves);
+  const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (moves && plain && before.isValid() && currentIndex() == before) {
+    selectionModel()->select(before, QItemSelectionModel::ClearAndSelect);
+  }
 }
 
 void SavegameList::mousePressEvent(QMouseEvent* event) {

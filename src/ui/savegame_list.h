@@ -27,6 +27,7 @@ class SavegameList final : public QListView {
 
  protected:
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 

@@ -122,8 +122,13 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   Press(Qt::Key_A, Qt::ControlModifier);
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 1, 2}));
 
-  // Another click on the same line looks at its files again.
+  // The key that leads to the line where the cursor is already selects it alone, too.
   Press(Qt::Key_Home);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_Home);
+  QCOMPARE(program_->selection.indices, std::vector<std::int16_t>{0});
+
+  // Another click on the same line looks at its files again.
   world_->disk.Write("Archive/Slot1/shot0.jpg", Jpeg(Qt::blue));
   ClickRow(0);
   QVERIFY(Find<PictureBox>("Image1")->Picture().pixelColor(5, 5).blue() > 200);
