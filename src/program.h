@@ -54,17 +54,19 @@ struct Program {
   CaptureState capture{};
   FolderChooserState chooser{};
 
-  // True while an operation works without waiting for the user; the timer does nothing then.
+  // True while an operation works without waiting for the user; the timer does nothing then. Set by
+  // SetWorking.
   bool working = false;
 };
+
+// Says whether an operation works from now on, which the pointer shows. Answers what held before.
+bool SetWorking(Program& program, bool working);
 
 // Marks an operation that works without waiting for the user, for as long as it lives.
 class WorkScope {
  public:
-  explicit WorkScope(Program& program) : program_(program), was_(program.working) {
-    program_.working = true;
-  }
-  ~WorkScope() { program_.working = was_; }
+  explicit WorkScope(Program& program) : program_(program), was_(SetWorking(program, true)) {}
+  ~WorkScope() { SetWorking(program_, was_); }
   WorkScope(const WorkScope&) = delete;
   WorkScope& operator=(const WorkScope&) = delete;
 

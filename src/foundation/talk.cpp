@@ -1,7 +1,5 @@
 #include "foundation/talk.h"
 
-#include <utility>
-
 #include "program.h"
 
 namespace vellumark {
@@ -9,9 +7,9 @@ namespace {
 
 // While the user is asked, nothing works: the timer may act.
 BoxAnswer Show(Program& program, const std::string& text, BoxButtons buttons, BoxIcon icon) {
-  const bool was_working = std::exchange(program.working, false);
+  const bool was_working = SetWorking(program, false);
   const BoxAnswer answer = program.boxes.Show(text, buttons, icon);
-  program.working = was_working;
+  SetWorking(program, was_working);
   return answer;
 }
 

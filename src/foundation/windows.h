@@ -25,6 +25,13 @@ class Windows {
 
   // Closes a dialog and releases it; nothing when it is not open.
   virtual void CloseDialog(WindowId window) = 0;
+
+  // Shows by the pointer whether an operation works without waiting for the user.
+  virtual void ShowBusy(bool busy) = 0;
+
+  // Lets the windows paint themselves while an operation works; no input gets through. Cheap enough
+  // to be called for every savegame.
+  virtual void LetPaint() = 0;
 };
 
 }  // namespace vellumark

@@ -60,6 +60,7 @@ class Export {
 
   void Run() {
     const WorkScope working(program_);
+    const auto hold = files_.HoldFolders();
     FindShots();
     // A name that needs no change is not pushed aside by a changed one.
     for (const SavegameEntry* entry : entries_) {
@@ -67,11 +68,9 @@ class Export {
       if (SafePart(stem) == stem) NameFor(stem);
     }
     for (const SavegameEntry* entry : entries_) {
-      FileError why = FileError::kNone;
-      const std::string target = NameFor(StemOf(*entry));
-      if (!CopyFileReplacing(files_, entry->ShotPath, target, &why)) {
-        failures_.push_back({entry->ShotPath, why});
-      }
+      program_.windows.LetPaint();
+      const FileError why = Copy(entry->ShotPath, NameFor(StemOf(*entry)));
+      if (why != FileError::kNone) failures_.push_back({entry->ShotPath, why});
     }
   }
 
@@ -108,6 +107,16 @@ class Export {
     }
     paths_.emplace(key, path);
     return path;
+  }
+
+  FileError Copy(const std::string& shot, const std::string& target) {
+    // Where nothing is replaced, it needs no detour over a temporary name.
+    if (files_.Attributes(target).error == FileError::kNotFound) {
+      return files_.CopyVerified(shot, target);
+    }
+    FileError why = FileError::kNone;
+    CopyFileReplacing(files_, shot, target, &why);
+    return why;
   }
 
   bool IsLinkedShot(const std::string& path) {

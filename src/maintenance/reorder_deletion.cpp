@@ -12,6 +12,7 @@
 #include "foundation/paths.h"
 #include "foundation/rescue.h"
 #include "foundation/strings.h"
+#include "foundation/windows.h"
 #include "maintenance/reorder_plan.h"
 #include "platform/text.h"
 #include "program.h"
@@ -190,6 +191,7 @@ Deletion DeleteOldArchive(Program& program, const OldArchive& old, const NewArch
   OldArchiveDeletion deletion(program, made);
   int number = 0;
   for (const OldSubfolder& folder : old.folders) {
+    program.windows.LetPaint();
     show(DeletingPercent(++number, program.catalogue.FolderCount));
     deletion.DeleteFolder(folder);
   }

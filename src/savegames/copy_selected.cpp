@@ -12,6 +12,7 @@
 #include "foundation/messages.h"
 #include "foundation/paths.h"
 #include "foundation/rescue.h"
+#include "foundation/windows.h"
 #include "platform/text.h"
 #include "program.h"
 #include "savegames/file_removal.h"
@@ -48,6 +49,7 @@ class Copier {
     std::vector<CopiedSavegame> moved;
     int position = 0;
     for (const SavegameFiles& savegame : savegames) {
+      program_.windows.LetPaint();
       int slot = renumber ? position : savegame.slot;
       ++position;
       const FileError no_number = probe ? FindFreeNumber(slot) : FileError::kNone;
@@ -172,7 +174,10 @@ class Copier {
       for (const CopiedFile& file : savegame) written.push_back(file.to);
     }
     const FileError flush = written.empty() ? FileError::kNone : files_.Flush(written);
-    for (const CopiedSavegame& savegame : savegames) DeleteSource(savegame, flush);
+    for (const CopiedSavegame& savegame : savegames) {
+      program_.windows.LetPaint();
+      DeleteSource(savegame, flush);
+    }
   }
 
   // Deletes the files of one savegame when the copies of all of them are safe at that moment.

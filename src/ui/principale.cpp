@@ -1,6 +1,7 @@
 #include "ui/principale.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -38,6 +39,7 @@ namespace {
 // What a window manager's frame takes of a small screen.
 constexpr QSize kFrameRoom(16, 40);
 constexpr int kTimerInterval = 500;  // milliseconds
+constexpr int kPaintInterval = 100;  // milliseconds
 
 // A field that shows a text: it can be read, marked and copied, not changed.
 QLineEdit* ReadOnlyField(const char* name, QWidget* parent) {
@@ -328,6 +330,19 @@ void Principale::CloseDialog(WindowId window) {
   if (IsOpen(window)) open_dialogs_[window]->reject();
 }
 
+void Principale::ShowBusy(bool busy) {
+  if (!busy) return QApplication::restoreOverrideCursor();
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  painted_.start();
+}
+
+void Principale::LetPaint() {
+  if (!program_->working || !painted_.hasExpired(kPaintInterval)) return;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                  QEventLoop::ExcludeSocketNotifiers);
+  painted_.start();
+}
+
 // A dialog that has closed may take a moment until it is gone.
 bool Principale::IsOpen(WindowId dialog) {
   const QPointer<QDialog>& window = open_dialogs_[dialog];
@@ -335,6 +350,8 @@ bool Principale::IsOpen(WindowId dialog) {
 }
 
 void Principale::closeEvent(QCloseEvent* event) {
+  // The end of the session may come while files are copied.
+  if (program_->working) return event->ignore();
   event->accept();
   if (std::exchange(closing_, true)) return;
   MainWindowClosing(*program_);

@@ -3,6 +3,7 @@
 #define VELLUMARK_UI_PRINCIPALE_H_
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
@@ -51,6 +52,8 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void ShowModal(WindowId dialog) override;
   void ShowModeless(WindowId dialog) override;
   void CloseDialog(WindowId window) override;
+  void ShowBusy(bool busy) override;
+  void LetPaint() override;
 
  signals:
   // The window has closed and shut-down is done.
@@ -85,6 +88,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   QLineEdit* total_folders_ = nullptr;
   QLineEdit* found_ = nullptr;
   QTimer timer_;
+  QElapsedTimer painted_;  // since the windows were last let paint
   QPointer<ScreenShotViewer> viewer_;
   std::map<WindowId, QPointer<QDialog>> open_dialogs_;  // those that are shown
 };

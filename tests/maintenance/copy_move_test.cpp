@@ -64,6 +64,13 @@ const std::string kOther = SavegameBytes("Other", 3, 3);
 constexpr auto kYes = BoxAnswer::kYes;
 constexpr auto kNo = BoxAnswer::kNo;
 
+TEST_F(CopyMoveTest, ThePointerIsBusyWhileFilesAreCopiedAndNeverWhileTheUserIsAsked) {
+  boxes.while_waiting = [this] { EXPECT_FALSE(windows.looks_busy); };
+  RunCommand(MoveSelection, {1, 2}, "T:\\Target", {BoxAnswer::kOk});
+  EXPECT_GE(windows.painted_busy, 4) << "two savegames, copied and then deleted";
+  EXPECT_FALSE(windows.looks_busy);
+}
+
 TEST_F(CopyMoveTest, WithoutASelectionNothingOpens) {
   RunCommand(CopySelection, {}, "T:\\Target", {});
   EXPECT_EQ(TakeRefusal(), "There are no savegames to copy");

@@ -151,6 +151,8 @@ class ScriptedWindows final : public MainWindow, public Windows {
     if (in_dialog) in_dialog(dialog);
   }
   void CloseDialog(WindowId window) override { events.push_back({"close", window}); }
+  void ShowBusy(bool busy) override { looks_busy = busy; }
+  void LetPaint() override { painted_busy += looks_busy ? 1 : 0; }
 
   std::vector<std::string> lines;
   std::vector<int> selected;
@@ -158,6 +160,8 @@ class ScriptedWindows final : public MainWindow, public Windows {
   std::string picture;
   std::string viewer;
   std::vector<std::pair<std::string, WindowId>> events;
+  bool looks_busy = false;
+  int painted_busy = 0;                     // how often an operation has let the windows paint
   std::function<void(WindowId)> in_dialog;  // what the user does in a modal dialog
 };
 

@@ -26,6 +26,7 @@ class PrincipaleTest : public WindowFixture {
   void CtrlAndTheSpaceBarSelectOneLineMore();
   void TheContextMenuHasTheSavegameCommands();
   void DelAsksAndDeletesTheSelection();
+  void AWorkingWindowPaintsItselfButDoesNotClose();
   void ARowShowsControlCharactersAsMarksOrBlanks();
   void RescanKeepsNothingOfTheOldList();
   void TheViewerShowsThePictureOfItsOpening();
@@ -187,6 +188,34 @@ void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
   QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, second, list->mapToGlobal(second));
   QApplication::sendEvent(list, &menu_key);
   QCOMPARE(names, expected);
+}
+
+// Counts how often what it watches is painted.
+class PaintCounter : public QObject {
+ public:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    painted += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+
+  int painted = 0;
+};
+
+void PrincipaleTest::AWorkingWindowPaintsItselfButDoesNotClose() {
+  PaintCounter counter;
+  List()->viewport()->installEventFilter(&counter);
+  {
+    const WorkScope working(*program_);
+    QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    List()->viewport()->update();
+    QTest::qSleep(200);
+    QCOMPARE(counter.painted, 0);
+    window_->LetPaint();
+    QVERIFY(counter.painted > 0);
+    QVERIFY(!window_->close());
+  }
+  QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+  QVERIFY(window_->isVisible());
 }
 
 void PrincipaleTest::DelAsksAndDeletesTheSelection() {

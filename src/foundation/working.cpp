@@ -1,0 +1,14 @@
+#include <utility>
+
+#include "foundation/windows.h"
+#include "program.h"
+
+namespace vellumark {
+
+bool SetWorking(Program& program, bool working) {
+  const bool was = std::exchange(program.working, working);
+  if (was != working) program.windows.ShowBusy(working);
+  return was;
+}
+
+}  // namespace vellumark
