@@ -20,6 +20,7 @@
 #include "foundation/own_messages.h"
 #include "foundation/shut_down.h"
 #include "game/capture.h"
+#include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "savegames/details.h"
@@ -315,6 +316,8 @@ void Principale::ShowModal(WindowId dialog) {
   open_dialogs_[dialog] = window.get();
   window->ImpostaValori();
   window->exec();
+  // A box and the dialog below it that close at once may take the input focus along.
+  if (QWidget* below = ModalOpener()) below->activateWindow();
 }
 
 void Principale::ShowModeless(WindowId dialog) {

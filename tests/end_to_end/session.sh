@@ -77,5 +77,8 @@ press_in() {
   xdotool key --clearmodifiers --delay 60 "$@"
 }
 
+# Succeeds when the window with this title has the focus; nothing here gives it.
+has_focus() { [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == *"$1" ]]; }
+
 # Types a text into whatever has the focus.
 type_text() { xdotool type --clearmodifiers --delay 30 -- "$1"; }
