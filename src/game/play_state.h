@@ -28,7 +28,7 @@ struct PlayState {
   std::int16_t ExaminedCount() const { return static_cast<std::int16_t>(ExaminedList.size()); }
   std::vector<std::string> examined_paths;  // the savegame files that they came from
   std::vector<PlacedFile> placed;           // all files that plays have put into `backup_of`
-  std::vector<std::string> brought;         // the names of those that the user has put there since
+  std::vector<std::string> brought;         // names of what the user has put there since
 
   std::string backup_of;               // the game folder that the backup was taken from
   bool backup_whole = false;           // all of that folder's slots arrived in the backup

@@ -111,7 +111,16 @@ void RememberBrought(Program& program, const std::string& folder,
                      const std::vector<std::string>& paths) {
   PlayState& play = program.play;
   if (!play.ExaminedInGameFolder || !MayBeSameFolder(program, folder, play.backup_of)) return;
-  for (const std::string& path : paths) play.brought.push_back(FileNameOf(path));
+  for (const std::string& path : paths) {
+    play.brought.push_back(FileNameOf(path));
+    // The game may save over either of two equals and rely on the other.
+    const ReadResult read = program.files.Read(path, FileSystem::kWholeFile);
+    for (const PlacedFile& file : play.placed) {
+      if (read.error != FileError::kNone || file.bytes == read.bytes) {
+        play.brought.push_back(file.name);
+      }
+    }
+  }
 }
 
 }  // namespace vellumark

@@ -23,7 +23,7 @@ struct SlotClearing {
 SlotClearing ClearGameSlots(Program& program, const std::string& game_folder);
 
 // The user has put these files into a folder. When it is the game folder whose slots were backed
-// up, they are his own from now on, even if a play has put equal ones there.
+// up, they are his own from now on, and so are equal ones that a play has put there.
 void RememberBrought(Program& program, const std::string& folder,
                      const std::vector<std::string>& paths);
 

@@ -183,6 +183,7 @@ TEST_F(PlayTest, ASavegameThatIsMovedIntoTheGameFolderOutlivesTheRestore) {
     world.boxes.answers = {BoxAnswer::kYes, beside_its_equal ? BoxAnswer::kYes : BoxAnswer::kNo};
     CopyOrMoveInto(*world.program, "T:\\Game", CopyMode::kMove);
     EXPECT_FALSE(world.disk.Exists("Archive/Slot1/savegame.5"));
+    if (beside_its_equal) world.disk.Write("Game/savegame.1", "saved over by the game");
     world.Restore(BoxAnswer::kYes);
     EXPECT_TRUE(Contains(world.boxes.AllTexts(), "T:\\Program\\rescued\\1"));
     testing::ExpectNothingLost(before, world.disk);
