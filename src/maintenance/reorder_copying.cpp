@@ -5,7 +5,6 @@
 
 #include "foundation/messages.h"
 #include "foundation/paths.h"
-#include "foundation/windows.h"
 #include "maintenance/reorder_order.h"
 #include "maintenance/reorder_plan.h"
 #include "program.h"
@@ -52,7 +51,6 @@ class Copying {
     const auto hold = files_.HoldFolders();
     const auto count = static_cast<int>(order.size());
     for (int position = 0; position < count && !made_.stopped; ++position) {
-      program_.windows.LetPaint();
       show(CopyingPercent(position, count, settings_.DeleteOldArchive));
       Place(order[static_cast<std::size_t>(position)]);
     }

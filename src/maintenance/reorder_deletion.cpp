@@ -12,7 +12,6 @@
 #include "foundation/paths.h"
 #include "foundation/rescue.h"
 #include "foundation/strings.h"
-#include "foundation/windows.h"
 #include "maintenance/reorder_plan.h"
 #include "platform/text.h"
 #include "program.h"
@@ -191,7 +190,6 @@ Deletion DeleteOldArchive(Program& program, const OldArchive& old, const NewArch
   OldArchiveDeletion deletion(program, made);
   int number = 0;
   for (const OldSubfolder& folder : old.folders) {
-    program.windows.LetPaint();
     show(DeletingPercent(++number, program.catalogue.FolderCount));
     deletion.DeleteFolder(folder);
   }
