@@ -63,6 +63,14 @@ TEST_F(ArchiveCommandsTest, SaveAsThatCannotWriteAsksAgainAndCancelledKeepsTheOl
   EXPECT_EQ(boxes.shown.size(), 2U);
 }
 
+TEST_F(ArchiveCommandsTest, SaveAsKeepsWhatAnotherFileOfThatNameHeld) {
+  const std::string savegame = disk.Read("Archive/Slot1/savegame.0");
+  dialogs.answers = {"T:\\Archive\\Slot1\\savegame.0"};
+  SaveArchiveAs(program);
+  EXPECT_EQ(disk.Read("Archive/Slot1/savegame.0.bak"), savegame);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "savegame.0.bak"));
+}
+
 TEST_F(ArchiveCommandsTest, ANeverNamedArchiveBringsUpTheSaveDialog) {
   program.preferences.LastArchive = "T:\\Program\\NoName.vmk";
   dialogs.answers = {"T:\\D.vmk"};

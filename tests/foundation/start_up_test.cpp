@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <set>
+#include <vector>
 
 #include "archive/archive_file.h"
 #include "foundation/preferences_file.h"
@@ -259,9 +259,13 @@ TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
   EXPECT_TRUE(Contains(boxes.shown[0].text, "has not yet imported"));
   EXPECT_TRUE(sounds.played.back().ends_with("s2.wav"));
 
-  std::set<WindowId> closed;
-  for (const auto& [event, window] : windows.events) closed.insert(window);
-  EXPECT_EQ(closed.size(), 8U) << "every dialog";
+  std::vector<WindowId> closed;
+  for (const auto& [event, window] : windows.events) closed.push_back(window);
+  EXPECT_EQ(closed, (std::vector<WindowId>{
+                        WindowId::kDialogScreenShot, WindowId::kDialogCattura,
+                        WindowId::kDialogCattura, WindowId::kDialogCerca, WindowId::kDialogGetDir,
+                        WindowId::kDialogNote, WindowId::kDialogPref, WindowId::kDialogRiordina,
+                        WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc}));
 }
 
 TEST_F(ShutDownTest, FilesThatCannotBeWrittenAreToldAndStay) {

@@ -20,6 +20,7 @@ class FolderChooserDialogTest : public WindowFixture {
   void ADriveThatIsNotReadyLeadsBack();
   void ANewFolderIsMadeFromTheNameField();
   void FoldersThatCannotBeEnteredAreNot();
+  void CancellingACopyLeavesTheChooserOpen();
 
  private:
   void InChooser(ChooserMode mode, const std::string& field, const std::function<void()>& act);
@@ -183,6 +184,20 @@ void FolderChooserDialogTest::FoldersThatCannotBeEnteredAreNot() {
     QVERIFY(LastMessage().find("access is denied") != std::string::npos);
     QCOMPARE(Path(), QStringLiteral("T:\\Archive"));
     QCOMPARE(Rows().size(), 4);
+  });
+}
+
+void FolderChooserDialogTest::CancellingACopyLeavesTheChooserOpen() {
+  InChooser(ChooserMode::kCopy, {}, [this] {
+    program_->chooser.savegames = {{.slot = 3}, {.slot = 3}};
+    const QString path = Path();
+    world_->boxes.answers = {BoxAnswer::kCancel};
+    Click("OKButton");
+    QVERIFY(dialog_->isVisible() && !program_->chooser.Confirmed);
+    QCOMPARE(Path(), path);
+    world_->boxes.answers = {BoxAnswer::kOk, BoxAnswer::kYes};
+    Click("OKButton");
+    QVERIFY(!dialog_->isVisible() && program_->chooser.Confirmed);
   });
 }
 

@@ -1,23 +1,49 @@
 // Message boxes, file dialogs, the clipboard, the shell and sounds by Qt.
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
 
+#include "game/capture.h"
+#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_shell.h"
 #include "platform/qt/qt_sound_player.h"
+#include "program.h"
 #include "support/test_world.h"
 
 namespace vellumark {
+namespace {
+
+// A picture on the clipboard that counts how often it is asked for its pixels.
+class CountedPicture final : public QMimeData {
+ public:
+  explicit CountedPicture(int* conversions) : conversions_(conversions) {}
+
+  QStringList formats() const override { return {QStringLiteral("application/x-qt-image")}; }
+
+ protected:
+  QVariant retrieveData(const QString& /*format*/, QMetaType /*type*/) const override {
+    ++*conversions_;
+    return image_;
+  }
+
+ private:
+  int* conversions_;
+  QImage image_{7680, 4320, QImage::Format_RGB32};
+};
+
+}  // namespace
 
 class QtServicesTest : public QObject {
   Q_OBJECT
@@ -32,6 +58,7 @@ class QtServicesTest : public QObject {
   void ALongPathIsNotCutOff();
   void FileDialogsStartWhereTheyAreTold();
   void FileDialogsExplainAPathThatCannotBeUsed();
+  void APictureIsConvertedOnlyWhenItIsWanted();
   void TheShellRefusesWhatIsMissing();
   void SoundsNeedNeitherDeviceNorModule();
 
@@ -152,6 +179,34 @@ void QtServicesTest::FileDialogsExplainAPathThatCannotBeUsed() {
   });
   QVERIFY(!dialogs.Save({.title = "", .filter = "x|*", .start_folder = "T:"}).has_value());
   QCOMPARE(world_.boxes.shown.size(), std::size_t{1});
+}
+
+void QtServicesTest::APictureIsConvertedOnlyWhenItIsWanted() {
+  int conversions = 0;
+  QApplication::clipboard()->setMimeData(new CountedPicture(&conversions));
+  QtClipboard clipboard;
+  Program program{.files = world_.files,
+                  .text = world_.text,
+                  .boxes = world_.boxes,
+                  .file_dialogs = world_.dialogs,
+                  .sounds = world_.sounds,
+                  .shell = world_.shell,
+                  .desktop = world_.desktop,
+                  .clipboard = clipboard,
+                  .windows = world_.windows,
+                  .main_window = world_.windows};
+  program.archive.settings.GameFolder = "T:\\Game";
+  program.archive.settings.MaxSavegame = 15;
+  program.preferences.AutoCapture = true;
+  conversions = 0;
+  for (int tick = 0; tick < 10; ++tick) OnTimer(program);
+  QCOMPARE(conversions, 0);
+
+  program.capture.CaptureArmed = true;
+  OnTimer(program);
+  QVERIFY(conversions > 0);
+  QVERIFY(program.capture.picture != nullptr);
+  QApplication::clipboard()->clear();
 }
 
 void QtServicesTest::TheShellRefusesWhatIsMissing() {
