@@ -76,8 +76,13 @@ class PathLookup {
   PathStatus Status(const WindowsPath& path);
   NamePlace FindPlace(const WindowsPath& path);
 
-  // What has changed while folders are held: a file was made at this place, or anything else.
+  // What has changed while folders are held: a file or a folder was made at this place, or anything
+  // else.
   void Made(const NamePlace& place) { variants_.Added(place.folder, place.name); }
+  void MadeFolder(const NamePlace& place) {
+    held_folders_.clear();  // it may have been missing
+    Made(place);
+  }
   void Forget();
 
   // The host path with the disk's spelling as far as the path exists.

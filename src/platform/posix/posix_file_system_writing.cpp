@@ -332,8 +332,13 @@ FileError PosixFileSystem::ClearAttributes(const std::string& path) {
 FileError PosixFileSystem::CreateFolder(const std::string& path) {
   const NamePlace place = PlaceToMake(path);
   if (place.error != FileError::kNone) return place.error;
+  if (mkdir(place.Host().c_str(), 0777) == 0) {
+    lookup_.MadeFolder(place);
+    return FileError::kNone;
+  }
+  const int failure = errno;
   lookup_.Forget();
-  return FileErrorFromNumber(mkdir(place.Host().c_str(), 0777) == 0 ? 0 : errno);
+  return FileErrorFromNumber(failure);
 }
 
 FileError PosixFileSystem::RemoveFolder(const std::string& path) {

@@ -159,6 +159,11 @@ TEST_F(PosixFileSystemTest, HeldFoldersShowWhatWasDoneToThem) {
   expect(fs_.DeleteAll({"T:\\Arc\\new"}).front(), FileError::kNone);
   expect(fs_.Create("T:\\Arc\\new", "z"), FileError::kNone);
   EXPECT_EQ(disk_.Read("Arc/b"), "x");
+
+  expect(fs_.Create("T:\\Arc\\Sub\\f", "w"), FileError::kNotFound);
+  expect(fs_.CreateFolder("T:\\Arc\\Sub"), FileError::kNone);
+  expect(fs_.Create("T:\\Arc\\Sub\\f", "w"), FileError::kNone);
+  expect(fs_.CreateFolder("T:\\Arc\\SUB"), FileError::kAlreadyExists);
 }
 
 }  // namespace
