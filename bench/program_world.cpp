@@ -4,8 +4,8 @@
 
 #include "archive/archive_file.h"
 #include "bench_run.h"
-#include "foundation/preferences.h"
 #include "foundation/preferences_file.h"
+#include "foundation/preferences_state.h"
 #include "foundation/record.h"
 #include "platform/system_services.h"
 

@@ -11,7 +11,6 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
-#include "foundation/start_up.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "platform/desktop_services.h"
@@ -20,6 +19,7 @@
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/system_services.h"
 #include "program.h"
+#include "session/start_up.h"
 #include "ui/fonts.h"
 #include "ui/principale.h"
 
@@ -82,7 +82,7 @@ int main(int argc, char* argv[]) {
     return 1;
   }
 
-  QtFileDialogs file_dialogs(*files, *text, boxes);
+  QtFileDialogs file_dialogs(*files, *text, boxes, LoadMessage(kPathNotExpressible));
   const auto sounds = MakeSoundPlayer(QCoreApplication::applicationDirPath().toStdString());
   const auto shell = MakeShell();
   const auto desktop = MakeDesktopWindows();

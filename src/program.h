@@ -5,15 +5,15 @@
 
 #include <string>
 
-#include "archive/archive_settings.h"
-#include "archive/catalogue.h"
-#include "foundation/preferences.h"
-#include "foundation/program_paths.h"
+#include "archive/archive_state.h"
+#include "foundation/preferences_state.h"
+#include "foundation/program_paths_state.h"
 #include "game/capture_state.h"
 #include "game/play_state.h"
 #include "maintenance/folder_chooser_state.h"
-#include "savegames/search_result.h"
-#include "savegames/selection.h"
+#include "savegames/catalogue_state.h"
+#include "savegames/search_state.h"
+#include "savegames/selection_state.h"
 
 namespace vellumark {
 
@@ -57,22 +57,6 @@ struct Program {
   // True while an operation works without waiting for the user; the timer does nothing then. Set by
   // SetWorking.
   bool working = false;
-};
-
-// Says whether an operation works from now on, which the pointer shows. Answers what held before.
-bool SetWorking(Program& program, bool working);
-
-// Marks an operation that works without waiting for the user, for as long as it lives.
-class WorkScope {
- public:
-  explicit WorkScope(Program& program) : program_(program), was_(SetWorking(program, true)) {}
-  ~WorkScope() { SetWorking(program_, was_); }
-  WorkScope(const WorkScope&) = delete;
-  WorkScope& operator=(const WorkScope&) = delete;
-
- private:
-  Program& program_;
-  bool was_;
 };
 
 }  // namespace vellumark

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "archive/archive_settings.h"
+#include "archive/archive_state.h"
 #include "platform/file_system.h"
 
 namespace vellumark {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "archive/archive_settings.h"
-#include "archive/catalogue.h"
+#include "archive/archive_state.h"
 #include "foundation/failures.h"
+#include "savegames/catalogue_state.h"
 
 namespace vellumark {
 

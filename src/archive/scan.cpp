@@ -8,6 +8,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/working.h"
 #include "program.h"
 #include "savegames/details.h"
 #include "savegames/list_line.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/preferences.h"
+#include "foundation/preferences_state.h"
 
 namespace vellumark {
 

@@ -1,5 +1,6 @@
 #include "foundation/talk.h"
 
+#include "foundation/working.h"
 #include "program.h"
 
 namespace vellumark {

@@ -1,3 +1,5 @@
+#include "foundation/working.h"
+
 #include <utility>
 
 #include "foundation/windows.h"

@@ -12,6 +12,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/working.h"
 #include "game/slot_release.h"
 #include "program.h"
 #include "savegames/info_file.h"

@@ -14,6 +14,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/working.h"
 #include "game/backup_paths.h"
 #include "game/restore.h"
 #include "game/running_game.h"

@@ -6,6 +6,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/working.h"
 #include "game/backup_paths.h"
 #include "game/slot_backup.h"
 #include "game/slot_clearing.h"

@@ -9,6 +9,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "foundation/working.h"
 #include "game/slot_clearing.h"
 #include "maintenance/target_savegames.h"
 #include "program.h"

@@ -9,6 +9,7 @@
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/talk.h"
+#include "foundation/working.h"
 #include "program.h"
 #include "savegames/file_removal.h"
 #include "savegames/savegame_files.h"

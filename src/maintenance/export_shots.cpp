@@ -17,6 +17,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "foundation/working.h"
 #include "platform/text.h"
 #include "program.h"
 

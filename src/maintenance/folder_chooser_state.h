@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "savegames/savegame_files.h"
+#include "savegames/catalogue_state.h"
 
 namespace vellumark {
 

@@ -6,6 +6,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/working.h"
 #include "maintenance/old_archive.h"
 #include "maintenance/reorder_deletion.h"
 #include "maintenance/reorder_order.h"

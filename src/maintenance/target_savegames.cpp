@@ -10,8 +10,9 @@
 #include "foundation/paths.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
-#include "game/backup_list.h"
+#include "foundation/working.h"
 #include "program.h"
+#include "savegames/backup_list.h"
 
 namespace vellumark {
 namespace {

@@ -1,8 +1,8 @@
 #include "savegames/file_removal.h"
 
 #include "foundation/file_utilities.h"
-#include "game/backup_list.h"
 #include "program.h"
+#include "savegames/backup_list.h"
 
 namespace vellumark {
 

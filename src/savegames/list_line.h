@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "archive/catalogue.h"
+#include "savegames/catalogue_state.h"
 
 namespace vellumark {
 

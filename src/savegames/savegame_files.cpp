@@ -1,7 +1,5 @@
 #include "savegames/savegame_files.h"
 
-#include "archive/catalogue.h"
-
 namespace vellumark {
 
 std::vector<SavegameFiles> FilesOf(const Catalogue& catalogue,

@@ -3,19 +3,11 @@
 #define VELLUMARK_SAVEGAMES_SAVEGAME_FILES_H_
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
+#include "savegames/catalogue_state.h"
+
 namespace vellumark {
-
-struct Catalogue;
-
-struct SavegameFiles {
-  std::int16_t slot = 0;
-  std::string savegame{};
-  std::string note{};  // whether or not the file exists
-  std::string shot{};  // whether or not the file exists
-};
 
 // The files of these catalogue entries, in that order. Indices beyond the catalogue are left out.
 std::vector<SavegameFiles> FilesOf(const Catalogue& catalogue,

@@ -1,6 +1,5 @@
 #include "ui/commands.h"
 
-#include "archive/archive_commands.h"
 #include "archive/scan.h"
 #include "foundation/help.h"
 #include "foundation/windows.h"
@@ -13,6 +12,7 @@
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
 #include "savegames/search.h"
+#include "session/archive_commands.h"
 
 namespace vellumark {
 namespace {

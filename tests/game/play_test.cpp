@@ -4,18 +4,18 @@
 
 #include <functional>
 
-#include "archive/archive_commands.h"
 #include "archive/archive_file.h"
 #include "archive/scan.h"
-#include "foundation/shut_down.h"
-#include "foundation/start_up.h"
-#include "game/backup_list.h"
 #include "game/examined.h"
 #include "game/restore.h"
 #include "game/running_game.h"
 #include "maintenance/copy_move.h"
+#include "savegames/backup_list.h"
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
+#include "session/archive_commands.h"
+#include "session/shut_down.h"
+#include "session/start_up.h"
 #include "support/every_call.h"
 #include "support/expectations.h"
 #include "support/test_world.h"

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 
+#include "foundation/working.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "ui/picture_box.h"

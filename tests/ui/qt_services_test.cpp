@@ -145,7 +145,7 @@ void QtServicesTest::ALongPathIsNotCutOff() {
 void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   world_.disk.Write("Saves/old.vmk", "x");
-  QtFileDialogs dialogs(world_.files, world_.text, world_.boxes);
+  QtFileDialogs dialogs(world_.files, world_.text, world_.boxes, "No Windows path.");
   WithNext<QFileDialog>([this](QFileDialog* dialog) {
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Save it"));
     QCOMPARE(dialog->directory().path().toStdString(), (world_.disk.path() / "Saves").string());
@@ -172,7 +172,7 @@ void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
 void QtServicesTest::FileDialogsExplainAPathThatCannotBeUsed() {
   const QString name = QString::fromUtf8("\u0416.vmk");
   world_.disk.Write(name.toStdString(), "x");
-  QtFileDialogs dialogs(world_.files, world_.text, world_.boxes);
+  QtFileDialogs dialogs(world_.files, world_.text, world_.boxes, "No Windows path.");
   WithNext<QFileDialog>([name](QFileDialog* dialog) {
     dialog->findChild<QLineEdit*>()->setText(name);
     QMetaObject::invokeMethod(dialog, "accept");

@@ -7,8 +7,8 @@
 #include <QTimer>
 
 #include "foundation/messages.h"
-#include "foundation/start_up.h"
 #include "platform/qt/qt_text.h"
+#include "session/start_up.h"
 #include "ui/access_keys.h"
 
 namespace vellumark {

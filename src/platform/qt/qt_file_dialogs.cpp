@@ -2,8 +2,6 @@
 
 #include <QFileInfo>
 
-#include "foundation/messages.h"
-#include "foundation/own_messages.h"
 #include "platform/file_system.h"
 #include "platform/message_boxes.h"
 #include "platform/qt/opener.h"
@@ -44,9 +42,7 @@ std::optional<std::string> QtFileDialogs::Run(QFileDialog& dialog,
 
   const std::string chosen = dialog.selectedFiles().constFirst().toStdString();
   auto path = files_.FromHostPath(chosen);
-  if (!path) {
-    boxes_.Show(LoadMessage(kPathNotExpressible), BoxButtons::kOk, BoxIcon::kCritical);
-  }
+  if (!path) boxes_.Show(not_expressible_, BoxButtons::kOk, BoxIcon::kCritical);
   return path;
 }
 

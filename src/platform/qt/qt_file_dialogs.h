@@ -3,6 +3,8 @@
 #define VELLUMARK_PLATFORM_QT_QT_FILE_DIALOGS_H_
 
 #include <QFileDialog>
+#include <string>
+#include <utility>
 
 #include "platform/file_dialogs.h"
 
@@ -14,8 +16,10 @@ class Text;
 
 class QtFileDialogs final : public FileDialogs {
  public:
-  QtFileDialogs(FileSystem& files, const Text& text, MessageBoxes& boxes)
-      : files_(files), text_(text), boxes_(boxes) {}
+  // `not_expressible` is what the user is told of a chosen path that has no Windows path.
+  QtFileDialogs(FileSystem& files, const Text& text, MessageBoxes& boxes,
+                std::string not_expressible)
+      : files_(files), text_(text), boxes_(boxes), not_expressible_(std::move(not_expressible)) {}
 
   std::optional<std::string> Open(const FileDialogRequest& request) override;
   std::optional<std::string> Save(const FileDialogRequest& request) override;
@@ -27,6 +31,7 @@ class QtFileDialogs final : public FileDialogs {
   FileSystem& files_;
   const Text& text_;
   MessageBoxes& boxes_;
+  const std::string not_expressible_;
 };
 
 // A filter in the form description `|` pattern as Qt writes it, the pattern behind the description.

@@ -1,4 +1,4 @@
-#include "foundation/backup_folder.h"
+#include "game/backup_folder.h"
 
 #include "foundation/failures.h"
 #include "foundation/messages.h"

@@ -1,6 +1,6 @@
 // The archive in use: where its savegames lie and which game they belong to.
-#ifndef VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_H_
-#define VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_H_
+#ifndef VELLUMARK_ARCHIVE_ARCHIVE_STATE_H_
+#define VELLUMARK_ARCHIVE_ARCHIVE_STATE_H_
 
 #include <cstdint>
 #include <optional>
@@ -36,4 +36,4 @@ struct ArchiveState {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_H_
+#endif  // VELLUMARK_ARCHIVE_ARCHIVE_STATE_H_

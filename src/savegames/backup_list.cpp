@@ -1,4 +1,4 @@
-#include "game/backup_list.h"
+#include "savegames/backup_list.h"
 
 #include "foundation/file_utilities.h"
 #include "foundation/paths.h"

@@ -1,6 +1,6 @@
 // The one view of the archive: every savegame that the last scan found.
-#ifndef VELLUMARK_ARCHIVE_CATALOGUE_H_
-#define VELLUMARK_ARCHIVE_CATALOGUE_H_
+#ifndef VELLUMARK_SAVEGAMES_CATALOGUE_STATE_H_
+#define VELLUMARK_SAVEGAMES_CATALOGUE_STATE_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +20,14 @@ struct SavegameEntry {
   std::string ShotPath;      // whether or not the file exists
 };
 
+// The files of a savegame, as a command remembers them when it starts.
+struct SavegameFiles {
+  std::int16_t slot = 0;
+  std::string savegame{};
+  std::string note{};  // whether or not the file exists
+  std::string shot{};  // whether or not the file exists
+};
+
 // Archived savegames first, sub-folder by sub-folder and by rising slot, then those of the game
 // folder. Indices are valid until the next scan.
 struct Catalogue {
@@ -34,4 +42,4 @@ struct Catalogue {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_ARCHIVE_CATALOGUE_H_
+#endif  // VELLUMARK_SAVEGAMES_CATALOGUE_STATE_H_

@@ -1,4 +1,4 @@
-#include "archive/archive_commands.h"
+#include "session/archive_commands.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What the user has selected in the list, and what the details show of it.
-#ifndef VELLUMARK_SAVEGAMES_SELECTION_H_
-#define VELLUMARK_SAVEGAMES_SELECTION_H_
+#ifndef VELLUMARK_SAVEGAMES_SELECTION_STATE_H_
+#define VELLUMARK_SAVEGAMES_SELECTION_STATE_H_
 
 #include <cstdint>
 #include <string>
@@ -22,4 +22,4 @@ struct DetailsState {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_SAVEGAMES_SELECTION_H_
+#endif  // VELLUMARK_SAVEGAMES_SELECTION_STATE_H_

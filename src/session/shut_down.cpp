@@ -1,6 +1,5 @@
-#include "foundation/shut_down.h"
+#include "session/shut_down.h"
 
-#include "archive/archive_commands.h"
 #include "foundation/messages.h"
 #include "foundation/preferences_file.h"
 #include "foundation/sound_effects.h"
@@ -10,6 +9,7 @@
 #include "game/restore.h"
 #include "game/slot_backup.h"
 #include "program.h"
+#include "session/archive_commands.h"
 
 namespace vellumark {
 

@@ -1,4 +1,4 @@
-#include "foundation/start_up.h"
+#include "session/start_up.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 
 #include "archive/archive_file.h"
 #include "foundation/preferences_file.h"
-#include "foundation/shut_down.h"
+#include "session/shut_down.h"
 #include "support/every_call.h"
 #include "support/expectations.h"
 #include "support/test_world.h"

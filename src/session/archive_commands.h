@@ -1,6 +1,6 @@
 // New, Load, Save and Save as, and the saving that happens by itself.
-#ifndef VELLUMARK_ARCHIVE_ARCHIVE_COMMANDS_H_
-#define VELLUMARK_ARCHIVE_ARCHIVE_COMMANDS_H_
+#ifndef VELLUMARK_SESSION_ARCHIVE_COMMANDS_H_
+#define VELLUMARK_SESSION_ARCHIVE_COMMANDS_H_
 
 namespace vellumark {
 
@@ -28,4 +28,4 @@ void LoadArchive(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_ARCHIVE_ARCHIVE_COMMANDS_H_
+#endif  // VELLUMARK_SESSION_ARCHIVE_COMMANDS_H_

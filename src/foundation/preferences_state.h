@@ -1,6 +1,6 @@
 // The program's own settings, apart from those of an archive.
-#ifndef VELLUMARK_FOUNDATION_PREFERENCES_H_
-#define VELLUMARK_FOUNDATION_PREFERENCES_H_
+#ifndef VELLUMARK_FOUNDATION_PREFERENCES_STATE_H_
+#define VELLUMARK_FOUNDATION_PREFERENCES_STATE_H_
 
 #include <cstdint>
 #include <string>
@@ -28,4 +28,4 @@ struct PreferencesFileState {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_PREFERENCES_H_
+#endif  // VELLUMARK_FOUNDATION_PREFERENCES_STATE_H_

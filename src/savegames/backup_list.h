@@ -1,6 +1,6 @@
 // Which files the backup of the player's slots should hold.
-#ifndef VELLUMARK_GAME_BACKUP_LIST_H_
-#define VELLUMARK_GAME_BACKUP_LIST_H_
+#ifndef VELLUMARK_SAVEGAMES_BACKUP_LIST_H_
+#define VELLUMARK_SAVEGAMES_BACKUP_LIST_H_
 
 #include <string>
 
@@ -14,4 +14,4 @@ void ForgetBackedUp(Program& program, const std::string& path);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_GAME_BACKUP_LIST_H_
+#endif  // VELLUMARK_SAVEGAMES_BACKUP_LIST_H_

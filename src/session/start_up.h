@@ -1,6 +1,6 @@
 // The first things that a run does.
-#ifndef VELLUMARK_FOUNDATION_START_UP_H_
-#define VELLUMARK_FOUNDATION_START_UP_H_
+#ifndef VELLUMARK_SESSION_START_UP_H_
+#define VELLUMARK_SESSION_START_UP_H_
 
 namespace vellumark {
 
@@ -16,4 +16,4 @@ void StartUp(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_START_UP_H_
+#endif  // VELLUMARK_SESSION_START_UP_H_

@@ -1,8 +1,7 @@
-#include "foundation/start_up.h"
+#include "session/start_up.h"
 
 #include "archive/archive_file.h"
 #include "archive/scan.h"
-#include "foundation/backup_folder.h"
 #include "foundation/captions.h"
 #include "foundation/failures.h"
 #include "foundation/file_utilities.h"
@@ -13,6 +12,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "game/backup_folder.h"
 #include "game/import.h"
 #include "platform/text.h"
 #include "program.h"

@@ -1,7 +1,7 @@
 // The folder `temp` beside the program, where the player's own slots wait while archived savegames
 // are played.
-#ifndef VELLUMARK_FOUNDATION_BACKUP_FOLDER_H_
-#define VELLUMARK_FOUNDATION_BACKUP_FOLDER_H_
+#ifndef VELLUMARK_GAME_BACKUP_FOLDER_H_
+#define VELLUMARK_GAME_BACKUP_FOLDER_H_
 
 namespace vellumark {
 
@@ -13,4 +13,4 @@ void PrepareBackupFolder(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_BACKUP_FOLDER_H_
+#endif  // VELLUMARK_GAME_BACKUP_FOLDER_H_

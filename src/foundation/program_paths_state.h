@@ -1,6 +1,6 @@
 // Where this run finds its own files.
-#ifndef VELLUMARK_FOUNDATION_PROGRAM_PATHS_H_
-#define VELLUMARK_FOUNDATION_PROGRAM_PATHS_H_
+#ifndef VELLUMARK_FOUNDATION_PROGRAM_PATHS_STATE_H_
+#define VELLUMARK_FOUNDATION_PROGRAM_PATHS_STATE_H_
 
 #include <string>
 
@@ -14,4 +14,4 @@ struct ProgramPaths {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_PROGRAM_PATHS_H_
+#endif  // VELLUMARK_FOUNDATION_PROGRAM_PATHS_STATE_H_

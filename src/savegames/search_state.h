@@ -1,6 +1,6 @@
 // The result of the last search.
-#ifndef VELLUMARK_SAVEGAMES_SEARCH_RESULT_H_
-#define VELLUMARK_SAVEGAMES_SEARCH_RESULT_H_
+#ifndef VELLUMARK_SAVEGAMES_SEARCH_STATE_H_
+#define VELLUMARK_SAVEGAMES_SEARCH_STATE_H_
 
 #include <cstdint>
 #include <vector>
@@ -16,4 +16,4 @@ struct SearchResult {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_SAVEGAMES_SEARCH_RESULT_H_
+#endif  // VELLUMARK_SAVEGAMES_SEARCH_STATE_H_

@@ -1,6 +1,6 @@
 // The last things that a run does.
-#ifndef VELLUMARK_FOUNDATION_SHUT_DOWN_H_
-#define VELLUMARK_FOUNDATION_SHUT_DOWN_H_
+#ifndef VELLUMARK_SESSION_SHUT_DOWN_H_
+#define VELLUMARK_SESSION_SHUT_DOWN_H_
 
 namespace vellumark {
 
@@ -15,4 +15,4 @@ void ShutDown(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_SHUT_DOWN_H_
+#endif  // VELLUMARK_SESSION_SHUT_DOWN_H_
