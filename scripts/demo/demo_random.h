@@ -3,7 +3,6 @@
 #ifndef VELLUMARK_SCRIPTS_DEMO_DEMO_RANDOM_H_
 #define VELLUMARK_SCRIPTS_DEMO_DEMO_RANDOM_H_
 
-#include <cstddef>
 #include <cstdint>
 
 namespace vellumark::demo {
@@ -34,12 +33,6 @@ class Random {
 
   // True with a probability from 0 to 1.
   bool Chance(double probability) { return Real(0.0, 1.0) < probability; }
-
-  // One element of an array or a vector that is not empty.
-  template <typename Container>
-  const auto& OneOf(const Container& container) {
-    return container[static_cast<std::size_t>(Bits()) % container.size()];
-  }
 
  private:
   std::uint64_t state_;

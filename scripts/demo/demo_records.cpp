@@ -62,7 +62,7 @@ std::string InfoSection(std::string_view folder, const std::vector<StorySavegame
     section += "savegame." + std::to_string(savegame.slot);
     section += savegame.slot < 10 ? "  " : " ";
     section += std::to_string(savegame.counter) + "  ";
-    section += savegame.level.name;
+    section += savegame.level;
     section += kLineEnd;
   }
 

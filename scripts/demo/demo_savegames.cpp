@@ -1,6 +1,7 @@
 #include "demo_savegames.h"
 
-#include <QByteArray>
+#include <QFile>
+#include <QIODevice>
 #include <QString>
 #include <cstddef>
 
@@ -99,6 +100,13 @@ std::string NoteBytes(std::string_view text) {
   bytes.replace('\n', "\x8D\n");
   bytes.append("\r\n");
   return bytes.toStdString();
+}
+
+QByteArray ShotBytes(std::string_view level, int counter) {
+  QString name = QString::fromLatin1(level.data(), static_cast<qsizetype>(level.size()));
+  name = name.toLower().replace(' ', '-') + QStringLiteral("-%1.jpg").arg(counter);
+  QFile file(QStringLiteral(DEMO_SHOTS "/") + name);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 }  // namespace vellumark::demo

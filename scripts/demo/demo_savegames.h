@@ -2,6 +2,7 @@
 #ifndef VELLUMARK_SCRIPTS_DEMO_DEMO_SAVEGAMES_H_
 #define VELLUMARK_SCRIPTS_DEMO_DEMO_SAVEGAMES_H_
 
+#include <QByteArray>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,6 +19,10 @@ std::string SavegameBytes(std::string_view level, int counter);
 
 // A note file: `text` is UTF-8 with \n between its lines and no character outside Latin-1.
 std::string NoteBytes(std::string_view text);
+
+// The picture of a savegame that has one: the bytes of a JPEG file of 640 by 480 pixels that lies
+// among the assets. Empty when it cannot be read.
+QByteArray ShotBytes(std::string_view level, int counter);
 
 }  // namespace vellumark::demo
 

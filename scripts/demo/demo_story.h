@@ -7,28 +7,10 @@
 
 namespace vellumark::demo {
 
-// What a level looks like on a screen-shot.
-enum class Scenery {
-  kJungle,
-  kTomb,
-  kTemple,
-  kDesert,
-  kLake,
-  kRailway,
-  kCoast,
-  kCatacombs,
-  kCity,
-};
-
-struct Level {
-  std::string_view name;
-  Scenery scenery = Scenery::kTomb;
-};
-
 struct StorySavegame {
   int slot = 0;
   int counter = 0;
-  Level level;
+  std::string_view level;
   bool shot = false;      // a screen-shot lies beside it
   std::string_view note;  // UTF-8, \n between lines; empty: no note file
 };

@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "demo_pictures.h"
 #include "demo_random.h"
+#include "demo_savegames.h"
 
 namespace vellumark::testing {
 namespace {
@@ -37,7 +37,7 @@ double SquaredDistance(QRgb a, QRgb b) {
 
 QImage NoisyScene(const QSize& size) {
   demo::Random random(1);
-  QImage picture = demo::DrawPicture(demo::Scenery::kTemple, 0, 1)
+  QImage picture = QImage::fromData(demo::ShotBytes("The Great Hypostyle Hall", 32))
                        .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                        .convertToFormat(QImage::Format_RGB32);
   for (int y = 0; y < picture.height(); ++y) {

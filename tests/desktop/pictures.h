@@ -6,7 +6,7 @@
 
 namespace vellumark::testing {
 
-// One of the demo world's drawn scenes at another size, with noise on each pixel.
+// One of the demo world's scenes at another size, with noise on each pixel.
 QImage NoisyScene(const QSize& size);
 
 // The peak signal-to-noise ratio of a copy, in decibels. Both pictures have the same size.
