@@ -1,6 +1,15 @@
 #include "archive/archive_file.h"
 
+#include <optional>
+
+#include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
+#include "foundation/paths.h"
 #include "foundation/record.h"
+#include "foundation/strings.h"
+#include "foundation/talk.h"
+#include "program.h"
 
 namespace vellumark {
 
@@ -38,6 +47,26 @@ ArchiveRead ReadArchiveFile(FileSystem& files, const std::string& path) {
     result.state = ArchiveReadState::kNotArchive;
   }
   return result;
+}
+
+FileError WriteArchiveFile(Program& program, const std::string& path) {
+  ArchiveState& archive = program.archive;
+  const bool is_own_file =
+      !archive.never_written && SamePath(program.text, path, program.preferences.LastArchive);
+  std::optional<std::string> kept;
+  if ((!is_own_file || archive.read_in_part) && FileExists(program.files, path)) {
+    kept = KeepBackupOf(program.files, path);
+    if (!kept) return FileError::kInputOutput;
+  }
+  const FileError error = WriteRecordFile(program.files, path, EncodeArchive(archive.settings));
+  if (error != FileError::kNone) return error;
+
+  program.preferences.LastArchive = path;
+  archive.read_in_part.reset();
+  archive.never_written = false;
+  archive.ArchiveChanged = false;
+  if (!is_own_file && kept) Tell(program, LoadMessage(kOldFileKept, {Quoted(path), Quoted(*kept)}));
+  return FileError::kNone;
 }
 
 }  // namespace vellumark

@@ -10,6 +10,8 @@
 
 namespace vellumark {
 
+struct Program;
+
 constexpr std::size_t kArchiveRecordSize = 1030;
 
 // Fields that the bytes do not hold whole are empty or 0.
@@ -29,6 +31,11 @@ struct ArchiveRead {
 };
 
 ArchiveRead ReadArchiveFile(FileSystem& files, const std::string& path);
+
+// Writes the settings in use to a file, which becomes LastArchive. Writing overwrites without a
+// question, so what another archive's file of that name held, or one that was not read whole, is
+// kept first, and the user is told of the former.
+FileError WriteArchiveFile(Program& program, const std::string& path);
 
 }  // namespace vellumark
 

@@ -7,7 +7,6 @@
 #include "archive/archive_file.h"
 #include "archive/scan.h"
 #include "foundation/failures.h"
-#include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
@@ -29,28 +28,6 @@ constexpr std::int16_t kNewArchiveMaxSavegame = 15;
 
 bool HasNoNameOfItsOwn(const std::string& path) {
   return EqualsIgnoringAsciiCase(FileNameOf(path), LoadMessage(281));
-}
-
-// Writes the settings to a file, which becomes LastArchive. Saving overwrites without a question,
-// so what another archive's file of that name held, or one that was not read whole, is kept first.
-FileError WriteSettings(Program& program, const std::string& path) {
-  ArchiveState& archive = program.archive;
-  const bool is_own_file =
-      !archive.never_written && SamePath(program.text, path, program.preferences.LastArchive);
-  std::optional<std::string> kept;
-  if ((!is_own_file || archive.read_in_part) && FileExists(program.files, path)) {
-    kept = KeepBackupOf(program.files, path);
-    if (!kept) return FileError::kInputOutput;
-  }
-  const FileError error = WriteRecordFile(program.files, path, EncodeArchive(archive.settings));
-  if (error != FileError::kNone) return error;
-
-  program.preferences.LastArchive = path;
-  archive.read_in_part.reset();
-  archive.never_written = false;
-  archive.ArchiveChanged = false;
-  if (!is_own_file && kept) Tell(program, LoadMessage(kOldFileKept, {Quoted(path), Quoted(*kept)}));
-  return FileError::kNone;
 }
 
 std::string NotWritten(const std::string& path, FileError error) {
@@ -121,7 +98,7 @@ void SaveArchive(Program& program) {
     SaveArchiveAs(program);
     return;
   }
-  if (const FileError error = WriteSettings(program, last); error != FileError::kNone) {
+  if (const FileError error = WriteArchiveFile(program, last); error != FileError::kNone) {
     Tell(program, NotWritten(last, error), BoxIcon::kCritical);
   }
 }
@@ -139,7 +116,7 @@ void SaveArchiveAs(Program& program) {
   if (!chosen) return;
   const std::string path = Trimmed(*chosen);
   if (!FitsRecord(program, path)) return SaveArchiveAs(program);
-  const FileError error = WriteSettings(program, path);
+  const FileError error = WriteArchiveFile(program, path);
   if (error != FileError::kNone && AskForAnotherName(program, path, error)) SaveArchiveAs(program);
 }
 
@@ -158,7 +135,7 @@ void SaveArchiveIfChanged(Program& program) {
     return;
   }
   if (IsUnchangedDamage(program.archive)) return;
-  const FileError error = WriteSettings(program, last);
+  const FileError error = WriteArchiveFile(program, last);
   if (error != FileError::kNone && AskForAnotherName(program, last, error)) SaveArchiveAs(program);
 }
 
