@@ -37,9 +37,9 @@ constexpr Command kCommands[] = {
     {"mnu_Savegames", "mnu_Examine", "Pul_Play", "Ctrl+P", PlaySelectedSavegames},
     {"mnu_Savegames", "mnu_PropSavegame", "Pul_CambiaProp", "F2", ShowSavegameProperties},
     {"mnu_Savegames", "-", nullptr, "", nullptr},
-    {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", CopySelection},
-    {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", MoveSelection},
-    {"mnu_Savegames", "mnu_Delete", nullptr, "Del", DeleteSelectedSavegames},
+    {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", CopySelection, true},
+    {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", MoveSelection, true},
+    {"mnu_Savegames", "mnu_Delete", nullptr, "Del", DeleteSelectedSavegames, true},
 
     {"mnu_Tools", "mnu_Reorder", nullptr, "", Show<WindowId::kDialogRiordina>},
     {"mnu_Tools", "mnu_Scansione", nullptr, "F5", RescanCommand},

@@ -102,6 +102,7 @@ void Principale::BuildMenus() {
     }
     auto* action = Named(new QAction(this), command.item);
     action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+    if (command.of_list) action->setShortcutContext(Qt::WidgetShortcut);
     menu->addAction(action);
   }
 }
@@ -141,6 +142,7 @@ QWidget* Principale::BuildDetails() {
   picture_ = Named(new ShotBox(files_, details), "Image1");
   note_ = Named(new QPlainTextEdit(details), "Text_Note");
   note_->setReadOnly(true);
+  note_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   note_->setTabChangesFocus(true);
   note_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   note_->setMinimumHeight(60);

@@ -57,9 +57,9 @@ SearchDialog::SearchDialog(Program& program)
   SetCaptions();
 
   Preferences& preferences = program.preferences;
-  connect(in_level_names_, &QCheckBox::clicked, this,
+  connect(in_level_names_, &QCheckBox::toggled, this,
           [&preferences](bool ticked) { preferences.SearchInLevelName = ticked; });
-  connect(in_notes_, &QCheckBox::clicked, this,
+  connect(in_notes_, &QCheckBox::toggled, this,
           [&preferences](bool ticked) { preferences.SearchInNotes = ticked; });
   connect(find, &QPushButton::clicked, this, &SearchDialog::Search);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

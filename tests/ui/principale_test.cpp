@@ -2,6 +2,7 @@
 #include "ui/principale.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -26,7 +27,7 @@ class PrincipaleTest : public WindowFixture {
   void KeysChangeTheDetailsAsClicksDo();
   void CtrlAndTheSpaceBarSelectOneLineMore();
   void TheContextMenuHasTheSavegameCommands();
-  void DelAsksAndDeletesTheSelection();
+  void KeysOfTheListAreTheListsAlone();
   void AWorkingWindowPaintsItselfButDoesNotClose();
   void ARowShowsControlCharactersAsMarksOrBlanks();
   void RescanKeepsNothingOfTheOldList();
@@ -219,11 +220,25 @@ void PrincipaleTest::AWorkingWindowPaintsItselfButDoesNotClose() {
   QVERIFY(window_->isVisible());
 }
 
-void PrincipaleTest::DelAsksAndDeletesTheSelection() {
+void PrincipaleTest::KeysOfTheListAreTheListsAlone() {
   auto* list = List();
   Press(Qt::Key_Down);
   Press(Qt::Key_Down, Qt::ShiftModifier);
   world_->boxes.answers = {BoxAnswer::kYes};
+
+  // In a text the same keys are the text's.
+  auto* note = Find<QPlainTextEdit>("Text_Note");
+  note->setPlainText(QStringLiteral("of the note"));
+  note->setFocus();
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_C}) QTest::keyClick(note, key, Qt::ControlModifier);
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("of the note"));
+  for (const char* other : {"Text_Note", "Text_PathSavegame", "Pul_Cerca"}) {
+    Find<QWidget>(other)->setFocus();
+    QTest::keyClick(Find<QWidget>(other), Qt::Key_Delete);
+  }
+  QVERIFY2(world_->boxes.shown.empty(), "no copy and no question");
+
+  list->setFocus();
   Press(Qt::Key_Delete);
   QCOMPARE(world_->disk.Names("Archive/Slot1"), std::vector<std::string>{"savegame.0"});
   QCOMPARE(list->model()->rowCount(), 1);

@@ -72,7 +72,7 @@ void SearchDialogTest::SwitchesHoldFromTheClickOnAndFiltersForOneOpening() {
       in_level_names = !in_level_names;
       QCOMPARE(preferences.SearchInLevelName, in_level_names);
       QCOMPARE(preferences.SearchInNotes, IsTicked(dialog, "Check_Note"));
-      Find<QCheckBox>(dialog, "Check_Note")->click();
+      Toggle(dialog, "Check_Note");
       QCOMPARE(preferences.SearchInNotes, IsTicked(dialog, "Check_Note"));
 
       for (const char* filter : {"Check_ConNote", "Check_ConScreenShot"}) {

@@ -65,8 +65,7 @@ void SettingsDialogsTest::PreferencesAreStoredOnOkOnly() {
     QVERIFY2(!IsTicked(dialog, "Check_Suoni"), "nothing of the last opening");
     QTest::keyClick(dialog, Qt::Key_E, Qt::AltModifier);
     QTRY_VERIFY(!IsTicked(dialog, "Check_AvvioAutomatico"));
-    QTest::keyClick(dialog, Qt::Key_A, Qt::AltModifier);
-    QTRY_VERIFY(IsTicked(dialog, "Check_TutteLeDir"));
+    Toggle(dialog, "Check_TutteLeDir");
     QTest::keyClick(dialog, Qt::Key_S, Qt::AltModifier);
     QTRY_VERIFY(IsTicked(dialog, "Check_Suoni"));
     QTest::keyClick(dialog, Qt::Key_Return);

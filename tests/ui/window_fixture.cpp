@@ -1,5 +1,6 @@
 #include "ui/window_fixture.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QGroupBox>
@@ -23,6 +24,12 @@ bool IsTicked(const QWidget* window, const char* box) {
 
 void Click(const QWidget* window, const char* control) {
   QTest::mouseClick(Find<QWidget>(window, control), Qt::LeftButton);
+}
+
+void Toggle(const QWidget* window, const char* box) {
+  QAccessible::queryAccessibleInterface(Find<QCheckBox>(window, box))
+      ->actionInterface()
+      ->doAction(QAccessibleActionInterface::toggleAction());
 }
 
 void Type(const QWidget* window, const char* field, const char* text) {

@@ -27,6 +27,9 @@ QString TextOf(const QWidget* window, const char* control);
 bool IsTicked(const QWidget* window, const char* box);
 void Click(const QWidget* window, const char* control);
 
+// Changes a check box as a screen reader or a voice control does.
+void Toggle(const QWidget* window, const char* box);
+
 // Types a text in place of the one in a field.
 void Type(const QWidget* window, const char* field, const char* text);
 
