@@ -1,5 +1,7 @@
 #include "archive/catalogue_builder.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -70,6 +72,9 @@ class Builder {
     if (main_folder.empty()) return;
     const auto main = files_.OpenFolder(main_folder);
     NoteListingFailure(main->Contents(), main_folder);
+    std::ranges::copy_if(
+        main->Contents().unusable, std::back_inserter(result_.unusable),
+        [](const UnusableName& name) { return name.folder && !name.shown.starts_with('.'); });
     const std::string lower_main = Lowered(main_folder);
     for (const FolderEntry& entry : main->Contents().entries) {
       if (!entry.folder || entry.name.starts_with('.')) continue;

@@ -24,6 +24,7 @@ struct ScannedCatalogue {
   std::vector<bool> has_shot;          // for each entry: its screen-shot existed
   std::vector<Failure> failures;       // folders and files that could not be read
   std::vector<std::string> ambiguous;  // paths left out: another name differs by case only
+  std::vector<UnusableName> unusable;  // sub-folders left out: no path leads to them
   std::vector<std::string> leftovers;  // temporary files of a run that was cut off
   bool table_full = false;             // there was more than a catalogue can hold
 };

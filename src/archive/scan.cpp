@@ -56,6 +56,17 @@ void ShowCatalogue(Program& program, const std::vector<bool>& has_shot) {
   if (program.catalogue.EntryCount() > 0) SelectOnly(program, 0);
 }
 
+// A line for each, in UTF-8.
+std::vector<std::string> DescribeUnusable(const std::vector<UnusableName>& names) {
+  std::vector<std::string> lines;
+  for (const UnusableName& name : names) {
+    const bool characters = name.reason == UnusableName::Reason::kNotInCodePage;
+    const std::string reason = LoadMessage(characters ? kUnusableCharacters : kUnusableName);
+    lines.push_back(LoadMessage(kFailureLine, {reason, Quoted(name.shown)}));
+  }
+  return lines;
+}
+
 void ReportProblems(Program& program, const ScannedCatalogue& scanned) {
   std::string text;
   const auto add = [&text](const std::string& paragraph) {
@@ -75,7 +86,12 @@ void ReportProblems(Program& program, const ScannedCatalogue& scanned) {
   if (!scanned.failures.empty()) {
     add(LoadMessage(kScanFailures) + DescribeFailures(scanned.failures));
   }
-  if (!text.empty()) Tell(program, text, BoxIcon::kExclamation);
+  if (!scanned.unusable.empty()) {
+    add(LoadMessage(kUnusableFolders, {Quoted(program.archive.settings.MainFolder)}));
+    TellNames(program, text, DescribeUnusable(scanned.unusable), BoxIcon::kExclamation);
+  } else if (!text.empty()) {
+    Tell(program, text, BoxIcon::kExclamation);
+  }
 }
 
 }  // namespace

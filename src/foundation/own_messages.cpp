@@ -54,6 +54,11 @@ constexpr TableMessage kOwnMessages[] = {
      "Warning: these names exist twice in their folder, in upper and lower case. They are not "
      "listed and will not be deleted. Please rename one of each:"},
     {kScanFailures, "Warning: these could not be read:"},
+    {kUnusableFolders,
+     "Warning: these sub-folders of ~1 cannot be listed, nor the savegames in them. They are "
+     "untouched. Please rename them:"},
+    {kUnusableCharacters, "its name has characters that savegame archives cannot hold"},
+    {kUnusableName, "Windows could not hold its name"},
 
     {kSubfolderNotMade,
      "The new sub-folder ~1 could not be created: ~2.~3Nothing has been imported, and nothing has "

@@ -27,9 +27,12 @@ enum OwnMessage : int {
   kPathNotExpressible,       // no values
 
   // Scan
-  kTableFull,       // ~1 number of entries
-  kAmbiguousNames,  // followed by failure lines
-  kScanFailures,    // followed by failure lines
+  kTableFull,           // ~1 number of entries
+  kAmbiguousNames,      // followed by failure lines
+  kScanFailures,        // followed by failure lines
+  kUnusableFolders,     // ~1 main folder; followed by failure lines
+  kUnusableCharacters,  // reason
+  kUnusableName,        // reason
 
   // Import
   kSubfolderNotMade,  // ~1 folder, ~2 reason, ~3 line break, ~4 game folder

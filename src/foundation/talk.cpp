@@ -20,6 +20,13 @@ void Tell(Program& program, const std::string& text, BoxIcon icon) {
   Show(program, text, BoxButtons::kOk, icon);
 }
 
+void TellNames(Program& program, const std::string& text, const std::vector<std::string>& lines,
+               BoxIcon icon) {
+  const bool was_working = SetWorking(program, false);
+  program.boxes.ShowNames(text, lines, icon);
+  SetWorking(program, was_working);
+}
+
 bool AskYesNo(Program& program, const std::string& text, BoxIcon icon) {
   return Show(program, text, BoxButtons::kYesNo, icon) == BoxAnswer::kYes;
 }

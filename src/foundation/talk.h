@@ -3,6 +3,7 @@
 #define VELLUMARK_FOUNDATION_TALK_H_
 
 #include <string>
+#include <vector>
 
 #include "platform/message_boxes.h"
 
@@ -16,6 +17,10 @@ inline constexpr const char* kLineBreak = "\r\n";
 
 // Shows a text with an OK button.
 void Tell(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
+
+// The same with lines below that the code page may not hold (UTF-8).
+void TellNames(Program& program, const std::string& text, const std::vector<std::string>& lines,
+               BoxIcon icon);
 
 // Asks with Yes and No, Yes being the default. True for Yes.
 bool AskYesNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);

@@ -3,6 +3,7 @@
 #define VELLUMARK_PLATFORM_MESSAGE_BOXES_H_
 
 #include <string>
+#include <vector>
 
 namespace vellumark {
 
@@ -24,6 +25,10 @@ class MessageBoxes {
   // the first button the default. The program's timer and events run meanwhile. Closing the box or
   // Escape answers kOk, kCancel, kNo or, of kYesNoToKeep, kYes.
   virtual BoxAnswer Show(const std::string& text, BoxButtons buttons, BoxIcon icon) = 0;
+
+  // Shows a text with an OK button, and below it lines that the code page may not hold (UTF-8).
+  virtual void ShowNames(const std::string& text, const std::vector<std::string>& lines,
+                         BoxIcon icon) = 0;
 };
 
 }  // namespace vellumark

@@ -150,6 +150,25 @@ TEST_F(ScanTest, LeavesOutAndReportsNamesThatDifferByCaseOnly) {
   EXPECT_TRUE(Contains(boxes.shown[0].text, "savegame.1"));
 }
 
+TEST_F(ScanTest, NamesTheSubfoldersToWhichNoPathLeads) {
+  std::vector<std::string> names{"\xD0\x96\xD0\x96", "\xE6\x97\xA5\xE6\x9C\xAC"};
+  if (testing::DiskTellsCaseApart()) {  // and takes names that Windows could not hold
+    names.insert(names.end(), {"trail ", "dot.", "a\\b", "co:lon", "star*", "q?", "CON", "a\tb"});
+    AddSavegame("Archive/no\xFF", 0, "F", 1);
+  }
+  for (const std::string& name : names) AddSavegame("Archive/" + name, 0, "E", 1);
+  AddSavegame("Archive/Slot1", 0, "A", 1);
+  ScanArchive(program);
+  EXPECT_TRUE(boxes.shown.empty()) << "they are no numbered sub-folders";
+
+  program.preferences.ScanAllSubfolders = true;
+  ScanArchive(program);
+  EXPECT_EQ(program.catalogue.EntryCount(), 1);
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  for (const std::string& name : names) EXPECT_TRUE(Contains(boxes.shown[0].text, name + "\": "));
+  EXPECT_EQ(Contains(boxes.shown[0].text, "no\xEF\xBF\xBD\": "), testing::DiskTellsCaseApart());
+}
+
 TEST_F(ScanTest, StopsWhenTheTableIsFullAndSaysSo) {
   program.archive.settings.MaxSavegame = 10100;
   for (int slot = 0; slot < 10050; ++slot) {

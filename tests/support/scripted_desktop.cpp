@@ -16,6 +16,13 @@ BoxAnswer ScriptedMessageBoxes::Show(const std::string& text, BoxButtons buttons
   return answer;
 }
 
+void ScriptedMessageBoxes::ShowNames(const std::string& text, const std::vector<std::string>& lines,
+                                     BoxIcon icon) {
+  std::string whole = text;
+  for (const std::string& line : lines) whole += '\n' + line;
+  Show(whole, BoxButtons::kOk, icon);
+}
+
 std::string ScriptedMessageBoxes::AllTexts() const {
   std::string all;
   for (const Shown& box : shown) all += box.text + "\n";

@@ -30,6 +30,8 @@ class ScriptedMessageBoxes final : public MessageBoxes {
   };
 
   BoxAnswer Show(const std::string& text, BoxButtons buttons, BoxIcon icon) override;
+  void ShowNames(const std::string& text, const std::vector<std::string>& lines,
+                 BoxIcon icon) override;
 
   std::vector<Shown> shown;
   std::deque<BoxAnswer> answers;        // for the next questions; without one, the default button

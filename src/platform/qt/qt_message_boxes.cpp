@@ -74,8 +74,19 @@ void SetLongText(QMessageBox& box, const QString& text) {
 }  // namespace
 
 BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxIcon icon) {
-  QMessageBox box(IconFor(icon), QStringLiteral("Vellumark"), ToDisplayText(text_, text),
-                  ButtonsFor(buttons), ModalOpener());
+  return ShowText(ToDisplayText(text_, text), buttons, icon);
+}
+
+void QtMessageBoxes::ShowNames(const std::string& text, const std::vector<std::string>& lines,
+                               BoxIcon icon) {
+  QString shown = ToDisplayText(text_, text);
+  for (const std::string& line : lines) shown += u'\n' + QString::fromStdString(line);
+  ShowText(shown, BoxButtons::kOk, icon);
+}
+
+BoxAnswer QtMessageBoxes::ShowText(const QString& text, BoxButtons buttons, BoxIcon icon) {
+  QMessageBox box(IconFor(icon), QStringLiteral("Vellumark"), text, ButtonsFor(buttons),
+                  ModalOpener());
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   SetLongText(box, box.text());
