@@ -106,12 +106,15 @@ constexpr TableMessage kOwnMessages[] = {
      "still in ~2:"},
     {kRestoredElsewhere,
      "The original savegames have been restored in folder ~1, from which they had been taken."},
-    {kGameNotStarted, "The game could not be started: ~1"},
-    {kGameNeeds,
-     "The game ~1 cannot be started: it needs ~2, which is not installed on this computer.\r\n"
-     "The savegames are in its slots; start it yourself."},
-    {kGameIsNoProgram,
-     "The game ~1 cannot be started: this file is no program.\r\nThe savegames are in its slots."},
+    {kGameNotStarted, "The game ~1 has not started: ~2."},
+    {kReasonNeedsWine, "it needs Wine, which is not installed on this computer"},
+    {kReasonOnly64Bit,
+     "it is a 32-bit program, and the Wine of this computer runs only 64-bit ones"},
+    {kPackageToInstall, "; please install the package ~1"},
+    {kReasonNoProgram, "this file is no program"},
+    {kReasonRefused, "the system has refused it"},
+    {kReasonEndedAtOnce, "its program ended at once, with error ~1"},
+    {kSavegamesInSlots, "The savegames are in its slots."},
 
     {kSlotEmpty,
      "This slot is empty: there is no savegame to link the screen-shot to. Nothing has been "
@@ -238,6 +241,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kReasonNotEmpty, "the folder is not empty"},
     {kReasonInUse, "another program is using it"},
     {kReasonInputOutput, "it could not be read or written"},
+    {kReasonFolder, "it is a folder"},
 };
 
 }  // namespace

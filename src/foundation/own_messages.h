@@ -54,9 +54,14 @@ enum OwnMessage : int {
   kRestoreNotBegun,         // ~1 backup folder
   kRestoreNotCopied,        // ~1 game folder, ~2 backup folder; followed by failure lines
   kRestoredElsewhere,       // ~1 game folder
-  kGameNotStarted,          // ~1 executable
-  kGameNeeds,               // ~1 executable, ~2 program
-  kGameIsNoProgram,         // ~1 executable
+  kGameNotStarted,          // ~1 executable, ~2 reason
+  kReasonNeedsWine,         // reason
+  kReasonOnly64Bit,         // reason
+  kPackageToInstall,        // goes on after a reason; ~1 package
+  kReasonNoProgram,         // reason
+  kReasonRefused,           // reason
+  kReasonEndedAtOnce,       // reason, ~1 exit code
+  kSavegamesInSlots,        // no values
 
   // Capture
   kSlotEmpty,            // no values
@@ -145,6 +150,7 @@ enum OwnMessage : int {
   kReasonNotEmpty,
   kReasonInUse,
   kReasonInputOutput,
+  kReasonFolder,
 };
 
 }  // namespace vellumark

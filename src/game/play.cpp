@@ -214,7 +214,7 @@ void PlaySelectedSavegames(Program& program) {
 
   program.clipboard.Empty();
   program.capture.CaptureArmed = true;
-  BringUpGame(program);
+  BringUpGame(program, GameSlots::kFilledByPlay);
 }
 
 }  // namespace vellumark

@@ -16,6 +16,13 @@ struct PlacedFile {
   std::string bytes;
 };
 
+// A start of the game that is being watched.
+struct StartWatch {
+  std::string executable{};
+  bool slots_filled = false;  // by the play that started it
+  int ticks_left = 0;         // of the timer; 0 when no start is watched
+};
+
 struct PlayState {
   // True from the first play of the run on: the game's slots hold archived savegames, and
   // BackupFolder holds the player's own.
@@ -35,7 +42,8 @@ struct PlayState {
   std::vector<std::string> backed_up;  // the names of the files that the backup should hold
 
   std::vector<TopLevelWindow> WindowList;  // of the last lookup, titles in the code page
-  std::string told_not_started;            // what the user was told when the game did not start
+  StartWatch start_watch;
+  std::string told_not_started;  // what this computer lacks to start the game, as the user was told
 };
 
 }  // namespace vellumark

@@ -1,18 +1,12 @@
 #include "game/running_game.h"
 
 #include <algorithm>
-#include <string_view>
-#include <utility>
 
-#include "foundation/file_utilities.h"
 #include "foundation/messages.h"
-#include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "platform/clipboard.h"
 #include "platform/file_system.h"
-#include "platform/shell.h"
 #include "platform/text.h"
 #include "program.h"
 
@@ -20,27 +14,6 @@ namespace vellumark {
 namespace {
 
 constexpr std::size_t kLongestTitle = 255;
-
-// True for a file without the mark that every Windows program begins with.
-bool IsNoProgram(Program& program, const std::string& file) {
-  constexpr std::string_view kMark = "MZ";
-  const ReadResult read = program.files.Read(file, kMark.size());
-  return read.error == FileError::kNone && read.bytes != kMark;
-}
-
-std::string WhyNotStarted(Program& program, const std::string& executable) {
-  const std::string missing = program.shell.MissingFor(program.files.HostPath(executable));
-  if (!missing.empty()) return LoadMessage(kGameNeeds, {Quoted(executable), missing});
-  const bool no_program = IsNoProgram(program, executable);
-  return LoadMessage(no_program ? kGameIsNoProgram : kGameNotStarted, {Quoted(executable)});
-}
-
-// The same is told once a run: what is missing stays missing.
-void TellNotStarted(Program& program, const std::string& executable) {
-  const std::string why = WhyNotStarted(program, executable);
-  if (std::exchange(program.play.told_not_started, why) == why) return;
-  Tell(program, why, BoxIcon::kExclamation);
-}
 
 }  // namespace
 
@@ -87,18 +60,15 @@ bool ActivateRunningGame(Program& program) {
   return true;
 }
 
-void BringUpGame(Program& program) {
+void BringUpGame(Program& program, GameSlots slots) {
   if (ActivateRunningGame(program)) return;
-  const std::string executable = Trimmed(program.archive.settings.GameExecutable);
-  if (!OpenWithShell(program.files, program.text, program.shell, executable, "", false, "")) {
-    TellNotStarted(program, executable);
-  }
+  StartGameProgram(program, Trimmed(program.archive.settings.GameExecutable), slots);
 }
 
 void StartGame(Program& program) {
   program.clipboard.Empty();
   program.capture.CaptureArmed = true;
-  BringUpGame(program);
+  BringUpGame(program, GameSlots::kAsTheyWere);
 }
 
 }  // namespace vellumark

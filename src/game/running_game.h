@@ -1,9 +1,10 @@
-// Finding, activating and starting the game.
+// Finding the running game and bringing it to the front.
 #ifndef VELLUMARK_GAME_RUNNING_GAME_H_
 #define VELLUMARK_GAME_RUNNING_GAME_H_
 
 #include <string>
 
+#include "game/game_start.h"
 #include "platform/desktop_windows.h"
 
 namespace vellumark {
@@ -21,8 +22,8 @@ WindowHandle FindWindowByTitle(Program& program, std::string& title, bool partia
 // the game was running, or the configured executable is not the game's. False: launch it.
 bool ActivateRunningGame(Program& program);
 
-// Brings the running game to the front or starts it. Why it cannot be started is told once a run.
-void BringUpGame(Program& program);
+// Brings the running game to the front or starts it.
+void BringUpGame(Program& program, GameSlots slots);
 
 // The button "Start Tomb Raider": arms the capture and brings up the game; touches no slot.
 void StartGame(Program& program);

@@ -19,6 +19,7 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "game/capture.h"
+#include "game/game_start.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
@@ -86,7 +87,10 @@ void Principale::Attach(Program& program) {
   program_ = &program;
   connect(list_, &SavegameList::SelectionTouched, this, [this] { RefreshDetails(*program_); });
   for (const Command& command : Commands()) Connect(command);
-  connect(&timer_, &QTimer::timeout, this, [this] { OnTimer(*program_); });
+  connect(&timer_, &QTimer::timeout, this, [this] {
+    OnTimer(*program_);
+    WatchGameStart(*program_);
+  });
   timer_.start();
 }
 

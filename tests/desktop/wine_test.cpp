@@ -16,6 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using Kind = MissingPart::Kind;
+
 class WinePrefix : public ::testing::Test {
  protected:
   WinePrefix() {
@@ -74,12 +76,13 @@ class WineShell : public WinePrefix {
   }
   ~WineShell() override { setenv("PATH", old_path_.c_str(), 1); }
 
-  void InstallWine(const std::string& name) const {
+  void InstallWine(const std::string& name, const std::string& end = "") const {
     disk_.Write("bin/" + name,
-                "#!/bin/sh\nfor word; do line=\"$line<$word>\"; done\n"
+                "#!/bin/sh\necho \"install wine32:i386\" >&2\n"
+                "for word; do line=\"$line<$word>\"; done\n"
                 "echo \"$line in $PWD of ${WINEPREFIX-none}\" > " +
                     Path("started.new") + "\n/bin/mv " + Path("started.new") + " " +
-                    Path("started") + "\n");
+                    Path("started") + "\n" + end + "\n");
     fs::permissions(disk_.path() / "bin" / name, fs::perms::owner_all);
   }
 
@@ -103,21 +106,73 @@ TEST_F(WineShell, StartsAWindowsProgramInItsPrefix) {
   const std::string outside = Path("games/tomb/tomb4.exe");
   ASSERT_TRUE(QtShell().Open(outside, "", Path("games/tomb"), false));
   EXPECT_EQ(Started(), "<" + outside + "> in " + Path("games/tomb") + " of none\n");
-  EXPECT_EQ(QtShell().MissingFor(outside), "");
+  EXPECT_EQ(QtShell().MissingFor(outside, true).kind, Kind::kNothing);
+}
+
+TEST_F(WineShell, TellsHowAStartEnded) {
+  const std::string program = Path("games/tomb/tomb4.exe");
+  const auto ended = [&](const std::string& end) {
+    InstallWine("wine", end);
+    QtShell shell;
+    EXPECT_FALSE(shell.LastStarted().ended);
+    EXPECT_TRUE(shell.Open(program, "", Path("games"), false));
+    EXPECT_TRUE(Becomes([&shell] { return shell.LastStarted().ended; }));
+    return shell.LastStarted();
+  };
+  StartedProgram started = ended("echo 'It lacks a library'\nexit 53");
+  EXPECT_EQ(started.exit_code, 53U);
+  EXPECT_EQ(started.last_words, "It lacks a library");
+  started = ended("kill -9 $$");
+  EXPECT_EQ(started.exit_code, 128U + 9U);
+  EXPECT_EQ(started.last_words, "Killed") << "what was advised before the start is not the reason";
+  EXPECT_EQ(ended("exit 0").exit_code, 0U);
+}
+
+// Files as they lie in an installation, empty but for the loader's own beginning.
+TEST_F(WineShell, KnowsAWineThatRunsOnly64Bit) {
+  const auto lacks = [this] {
+    const MissingPart missing = QtShell(QString::fromStdString(Path("lib/wine")))
+                                    .MissingFor(Path("games/tomb/tomb4.exe"), true);
+    return missing.kind == Kind::kWineFor32Bit ? missing.package + "!" : "";
+  };
+  const std::string elf32 = "\177ELF\1";
+  const std::string elf64 = "\177ELF\2";
+  const auto install = [this](const std::string& name, const std::string& bytes) {
+    disk_.Write(name, bytes);
+    fs::permissions(disk_.path() / name, fs::perms::owner_all);
+  };
+  install("bin/wine", "#!/bin/sh\nexec " + Path("lib/wine/wine64"));
+  install("lib/wine/wine64", elf64);
+  EXPECT_EQ(lacks(), "") << "its libraries are somewhere else";
+  disk_.Write("lib/x86_64-linux-gnu/wine/x86_64-unix/ntdll.so", "");
+  disk_.Write("lib/x86_64-linux-gnu/wine/i386-windows/zlib1.dll", "");
+  EXPECT_EQ(lacks(), "wine32:i386!");
+  install("lib/wine/wine", elf32);
+  EXPECT_EQ(lacks(), "");
+  fs::remove(disk_.path() / "lib/wine/wine");
+  disk_.Write("lib/x86_64-linux-gnu/wine/i386-windows/ntdll.dll", "");
+  EXPECT_EQ(lacks(), "") << "it needs no loader of its own for them";
+
+  fs::remove_all(disk_.path() / "lib");
+  install("bin/wine", elf64);
+  disk_.Write("lib64/wine/x86_64-windows/ntdll.dll", "");
+  EXPECT_EQ(lacks(), "!");
+  install("bin/wine", elf32);
+  EXPECT_EQ(lacks(), "");
 }
 
 TEST_F(WineShell, SaysThatWineIsMissing) {
   QtShell shell(QString::fromStdString(Path("bin/beside")));
   const std::string program = Path("games/tomb/tomb4.exe");
   EXPECT_FALSE(shell.Open(program, "", Path("games/tomb"), false));
-  EXPECT_EQ(shell.MissingFor(program), "Wine");
+  EXPECT_EQ(shell.MissingFor(program, false).kind, Kind::kWine);
 
   disk_.Write("games/readme.txt", "M");
-  EXPECT_EQ(shell.MissingFor(Path("games/readme.txt")), "");
-  EXPECT_EQ(shell.MissingFor(Path("games/none.exe")), "");
+  EXPECT_EQ(shell.MissingFor(Path("games/readme.txt"), false).kind, Kind::kNothing);
+  EXPECT_EQ(shell.MissingFor(Path("games/none.exe"), false).kind, Kind::kNothing);
 
   InstallWine("beside/wine64");
-  EXPECT_EQ(shell.MissingFor(program), "");
+  EXPECT_EQ(shell.MissingFor(program, false).kind, Kind::kNothing);
   EXPECT_TRUE(shell.Open(program, "", Path("games/tomb"), false));
   EXPECT_EQ(Started(), "<" + program + "> in " + Path("games/tomb") + " of none\n");
 }

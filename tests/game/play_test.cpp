@@ -7,6 +7,7 @@
 #include "archive/archive_file.h"
 #include "archive/scan.h"
 #include "game/examined.h"
+#include "game/program_kind.h"
 #include "game/restore.h"
 #include "game/running_game.h"
 #include "maintenance/copy_move.h"
@@ -23,6 +24,7 @@
 namespace vellumark {
 namespace {
 
+using std::string_literals::operator""s;
 using testing::Contains;
 using testing::Files;
 using testing::SavegameBytes;
@@ -418,21 +420,95 @@ TEST_F(RunningGameTest, OnlyTheGameItselfIsStarted) {
   StartGame(*program);
   EXPECT_TRUE(shell.opened.empty());
   program->archive.settings.GameExecutable = "T:\\Game\\TOMB4.EXE ";
-  boxes.shown.clear();
-  shell.answer = false;
-  shell.missing = "Wine";
   StartGame(*program);
-  StartGame(*program);
-  EXPECT_EQ(shell.opened.size(), 2U);
-  ASSERT_EQ(boxes.shown.size(), 1U) << "told once";
-  EXPECT_TRUE(Contains(boxes.shown[0].text, "needs Wine"));
+  EXPECT_EQ(shell.opened.size(), 1U);
+}
 
-  shell.missing.clear();
-  for (const char* why : {"this file is no program", "could not be started"}) {
-    StartGame(*program);
-    EXPECT_TRUE(Contains(boxes.shown.back().text, why));
-    disk.Write("Game/tomb4.exe", "MZ");
+// The beginning of a program for Windows, whose header stands at `at`.
+std::string WindowsProgram(const std::string& machine, char at = 0x40) {
+  std::string bytes = "MZ" + std::string(0x3A, '\1') + at + std::string(3, '\0');
+  return bytes + std::string("PE\0\0", 4) + machine + std::string(16, '\0');
+}
+
+TEST_F(RunningGameTest, TheProgramsHeaderIsTrustedInNothing) {
+  using enum ProgramKind;
+  const std::string program32 = WindowsProgram("\x4C\x01");
+  EXPECT_EQ(KindOfProgram(program32, true), kWindows32);
+  EXPECT_EQ(KindOfProgram(WindowsProgram("\x64\x86"), true), kWindows);
+  EXPECT_EQ(KindOfProgram("\177ELF", true), kForeign);
+  EXPECT_EQ(KindOfProgram("", true), kForeign);
+  EXPECT_EQ(KindOfProgram("MZ" + std::string(0x3A, '\0') + "\x40\0\0\0NE"s, true), kWindows);
+  for (const char at : {'\0', '\x3C', '\x41', '\x5A', '\xFF'}) {
+    EXPECT_EQ(KindOfProgram(WindowsProgram("\x4C\x01", at), true), kBroken);
   }
+  EXPECT_EQ(KindOfProgram("MZ" + std::string(0x3A, '\0') + "\xFF\xFF\xFF\xFF"s, false), kWindows);
+  for (std::size_t size = 2; size < 0x46; ++size) {
+    EXPECT_EQ(KindOfProgram(program32.substr(0, size), true), kBroken) << size;
+  }
+}
+
+TEST_F(RunningGameTest, WhyItDoesNotStartIsTold) {
+  const auto start = [this](const std::string& bytes) {
+    disk.Write("Game/tomb4.exe", bytes);
+    boxes.shown.clear();
+    StartGame(*program);
+    EXPECT_EQ(boxes.AllTexts().find("in its slots"), std::string::npos) << "nothing was played";
+    return boxes.AllTexts();
+  };
+  const std::string program32 = WindowsProgram("\x4C\x01");
+  shell.missing = {MissingPart::Kind::kWineFor32Bit, "wine32:i386"};
+  EXPECT_TRUE(Contains(start(program32), "a 32-bit program, and the Wine of this computer"));
+  EXPECT_EQ(start(program32), "") << "told once";
+  EXPECT_TRUE(Contains(start("MZ"), "this file is no program"));
+  EXPECT_TRUE(shell.opened.empty());
+  EXPECT_EQ(start(WindowsProgram("\x64\x86")), "");
+  EXPECT_TRUE(Contains(start(program32), "install the package wine32:i386")) << "it was started";
+  shell.missing = {MissingPart::Kind::kWine};
+  EXPECT_TRUE(Contains(start(program32), "needs Wine"));
+  EXPECT_EQ(shell.opened.size(), 1U);
+
+  shell.missing = {};
+  shell.answer = false;
+  shell.started.last_words = "Not \xE2\x82\xAC\nnow";
+  EXPECT_TRUE(Contains(start("text"), "this file is no program.\r\nNot \x80 now"));
+  EXPECT_TRUE(Contains(start(program32), "the system has refused it"));
+  disk.Remove({"Game/tomb4.exe"});
+  StartGame(*program);
+  EXPECT_TRUE(Contains(boxes.shown.back().text, "it does not exist"));
+  disk.MakeFolder("Game/tomb4.exe");
+  StartGame(*program);
+  EXPECT_TRUE(Contains(boxes.shown.back().text, "it is a folder"));
+}
+
+TEST_F(RunningGameTest, AStartThatEndsAtOnceIsTold) {
+  const auto told_in = [this](int ticks) {
+    boxes.shown.clear();
+    for (int i = 0; i < ticks; ++i) WatchGameStart(*program);
+    return boxes.AllTexts();
+  };
+  StartGame(*program);
+  EXPECT_EQ(told_in(9), "");
+  shell.started = {true, 0xC0000135, "it lacks a library"};
+  EXPECT_TRUE(Contains(told_in(9), "with error 0xc0000135.\r\nit lacks a library\n"));
+  EXPECT_EQ(boxes.shown.size(), 1U);
+
+  shell.started = {true, 0, ""};
+  StartGame(*program);
+  EXPECT_EQ(told_in(1), "") << "it has started another program";
+  shell.started = {};
+  StartGame(*program);
+  desktop.open = {{1, "Tomb Raider - The Last Revelation"}};
+  EXPECT_EQ(told_in(1), "");
+  desktop.open.clear();
+  shell.started = {true, 1, "it was played and left"};
+  EXPECT_EQ(told_in(1), "");
+  shell.started = {};
+  Play({0});
+  EXPECT_EQ(told_in(100), "");
+  shell.started = {true, 1, "it crashed later"};
+  EXPECT_EQ(told_in(100), "");
+  Play({0});
+  EXPECT_TRUE(Contains(told_in(1), "with error 1.\r\nit crashed later\r\nThe savegames are in"));
 }
 
 // A play, a save by the game, a play in which that must be set aside, and the restore.

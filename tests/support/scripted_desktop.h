@@ -75,7 +75,11 @@ class RecordedShell final : public Shell {
     opened.push_back({document, parameters, working_folder, hidden});
     return answer;
   }
-  std::string MissingFor(const std::string& /*document*/) override { return missing; }
+  StartedProgram LastStarted() override { return started; }
+  MissingPart MissingFor(const std::string& /*document*/, bool is_32_bit) override {
+    const bool lacks = missing.kind != MissingPart::Kind::kWineFor32Bit || is_32_bit;
+    return lacks ? missing : MissingPart{};
+  }
 
   struct Opened {
     std::string document;
@@ -85,7 +89,8 @@ class RecordedShell final : public Shell {
   };
   std::vector<Opened> opened;
   bool answer = true;
-  std::string missing;
+  StartedProgram started;
+  MissingPart missing;
 };
 
 // The windows of other programs.

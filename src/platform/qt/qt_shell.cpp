@@ -4,7 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryFile>
 #include <QUrl>
+#include <algorithm>
 
 #include "platform/qt/wine.h"
 
@@ -20,6 +22,32 @@ QProcessEnvironment EnvironmentFor(const QString& program) {
                    environment.value(QStringLiteral("HOME")).toStdString());
   if (!prefix.empty()) environment.insert(name, QString::fromStdString(prefix));
   return environment;
+}
+
+// A shell stays behind the program and writes how it ended, whether this program still runs or not.
+constexpr const char* kRunAndSayTheEnd = "\"$@\" >&2; echo \"$0 $?\" >&2";
+constexpr const char* kEndMark = "vellumark: ended with";
+
+constexpr const char* kDebianWineFor32Bit = "wine32:i386";
+
+// Less the advice of Debian's Wine to install its 32-bit half, which stands before whatever runs.
+QByteArray WithoutAdvice(const QByteArray& log) {
+  const qsizetype advice = log.lastIndexOf(kDebianWineFor32Bit);
+  const qsizetype end = advice < 0 ? -1 : log.indexOf('\n', advice);
+  return log.mid(end + 1);
+}
+
+StartedProgram ReadLog(const QByteArray& log) {
+  StartedProgram started;
+  for (const QByteArray& line : WithoutAdvice(log).split('\n')) {
+    if (line.startsWith(kEndMark)) {
+      started.ended = true;
+      started.exit_code = line.mid(qstrlen(kEndMark)).trimmed().toUInt();
+      break;
+    }
+    if (!line.trimmed().isEmpty()) started.last_words = line.trimmed().toStdString();
+  }
+  return started;
 }
 
 // The permission alone tells nothing: on a disk without permissions every file has it.
@@ -38,33 +66,54 @@ bool QtShell::Open(const std::string& document, const std::string& parameters,
   if (document.empty() || !file.exists()) return false;
 
   const bool for_wine = file.isFile() && IsWindowsProgram(file.filePath());
-  if (!for_wine && !(file.isFile() && IsNativeProgram(file))) {
-    // What only bears a program's name would come up in an editor, or nowhere.
-    const bool named_program =
-        file.suffix().compare(QLatin1String("exe"), Qt::CaseInsensitive) == 0;
-    if (named_program) return false;
+  const bool runs = for_wine || (file.isFile() && IsNativeProgram(file));
+  // What only bears a program's name would come up in an editor, or nowhere.
+  const bool named_program = file.suffix().compare(QLatin1String("exe"), Qt::CaseInsensitive) == 0;
+  if (!runs && !named_program) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file.filePath()));
   }
+  log_.reset();
+  if (!runs) return false;
 
+  QStringList command = QProcess::splitCommand(QString::fromStdString(parameters));
+  command.prepend(file.absoluteFilePath());
   QProcess process;
-  QStringList arguments = QProcess::splitCommand(QString::fromStdString(parameters));
   if (for_wine) {
     const QString wine = FindWine(wine_folder_);
     if (wine.isEmpty()) return false;
-    process.setProgram(wine);
+    command.prepend(wine);
     process.setProcessEnvironment(EnvironmentFor(file.filePath()));
-    arguments.prepend(file.absoluteFilePath());
-  } else {
-    process.setProgram(file.filePath());
   }
-  process.setArguments(arguments);
+  process.setProgram(QStringLiteral("/bin/sh"));
+  process.setArguments(
+      QStringList{QStringLiteral("-c"), QLatin1String(kRunAndSayTheEnd), QLatin1String(kEndMark)} +
+      command);
   process.setWorkingDirectory(QString::fromStdString(working_folder));
+
+  // The file loses its name at once, so that nothing is left of it when the program has ended.
+  QTemporaryFile log;
+  if (log.open()) {
+    process.setStandardErrorFile(log.fileName(), QIODevice::Append);
+    log_ = std::make_unique<QFile>(log.fileName());
+    if (!log_->open(QIODevice::ReadOnly)) log_.reset();
+  }
   return process.startDetached();
 }
 
-std::string QtShell::MissingFor(const std::string& document) {
-  const bool needs_wine = IsWindowsProgram(QString::fromStdString(document));
-  return needs_wine && FindWine(wine_folder_).isEmpty() ? "Wine" : "";
+StartedProgram QtShell::LastStarted() {
+  constexpr qint64 kEnd = 8192;
+  if (log_ == nullptr || !log_->seek(std::max<qint64>(log_->size() - kEnd, 0))) return {};
+  return ReadLog(log_->readAll());
+}
+
+MissingPart QtShell::MissingFor(const std::string& document, bool is_32_bit) {
+  using Kind = MissingPart::Kind;
+  if (!IsWindowsProgram(QString::fromStdString(document))) return {};
+  const QString wine = FindWine(wine_folder_);
+  if (wine.isEmpty()) return {.kind = Kind::kWine};
+  if (!is_32_bit || !RunsOnly64Bit(wine, wine_folder_)) return {};
+  const bool is_debian = QFile::exists(wine_folder_ + QStringLiteral("/wine64"));
+  return {.kind = Kind::kWineFor32Bit, .package = is_debian ? kDebianWineFor32Bit : ""};
 }
 
 }  // namespace vellumark

@@ -2,7 +2,9 @@
 #ifndef VELLUMARK_PLATFORM_QT_QT_SHELL_H_
 #define VELLUMARK_PLATFORM_QT_QT_SHELL_H_
 
+#include <QFile>
 #include <QString>
+#include <memory>
 
 #include "platform/shell.h"
 
@@ -17,10 +19,12 @@ class QtShell final : public Shell {
   // Nothing here can keep a started program from showing a window: `hidden` changes nothing.
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
-  std::string MissingFor(const std::string& document) override;
+  StartedProgram LastStarted() override;
+  MissingPart MissingFor(const std::string& document, bool is_32_bit) override;
 
  private:
   QString wine_folder_;
+  std::unique_ptr<QFile> log_;  // what the program that was started last says
 };
 
 }  // namespace vellumark

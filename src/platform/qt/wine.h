@@ -14,6 +14,10 @@ bool IsWindowsProgram(const QString& file);
 // the `wine64` of a folder where a system may keep it beside PATH. Empty when there is none.
 QString FindWine(const QString& beside_path);
 
+// True when this Wine, as FindWine answers it, is known to run no 32-bit program: the one that its
+// loader or Debian's script in front of it belongs to has only its 64-bit half here.
+bool RunsOnly64Bit(const QString& wine, const QString& beside_path);
+
 // The prefix (what WINEPREFIX names) that a program lies in, as an absolute path: the one whose
 // drive C is a folder around it, else the first of `wine_prefix` (the value of WINEPREFIX) and
 // `.wine` in the folder `home` that has a drive for a folder around it, a drive for the whole file

@@ -2,6 +2,8 @@
 #ifndef VELLUMARK_PLATFORM_WINDOWS_DESKTOP_WINDOWS_SHELL_H_
 #define VELLUMARK_PLATFORM_WINDOWS_DESKTOP_WINDOWS_SHELL_H_
 
+#include <memory>
+
 #include "platform/shell.h"
 
 namespace vellumark {
@@ -10,7 +12,18 @@ class WindowsShell final : public Shell {
  public:
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
-  std::string MissingFor(const std::string& document) override;
+  StartedProgram LastStarted() override;
+  MissingPart MissingFor(const std::string& /*document*/, bool /*is_32_bit*/) override {
+    return {};
+  }
+
+ private:
+  struct Closer {
+    using pointer = void*;
+    void operator()(void* handle) const;
+  };
+  std::unique_ptr<void, Closer> process_;  // of the program that was started last
+  std::string refusal_;                    // of the last start, in the system's words
 };
 
 }  // namespace vellumark
