@@ -114,6 +114,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kReasonNoProgram, "this file is no program"},
     {kReasonRefused, "the system has refused it"},
     {kReasonEndedAtOnce, "its program ended at once, with error ~1"},
+    {kGameLastWords, "The last words about it: ~1"},
     {kSavegamesInSlots, "The savegames are in its slots."},
 
     {kSlotEmpty,

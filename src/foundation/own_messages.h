@@ -61,6 +61,7 @@ enum OwnMessage : int {
   kReasonNoProgram,         // reason
   kReasonRefused,           // reason
   kReasonEndedAtOnce,       // reason, ~1 exit code
+  kGameLastWords,           // ~1 a line that another program wrote
   kSavegamesInSlots,        // no values
 
   // Capture

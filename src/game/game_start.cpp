@@ -41,9 +41,9 @@ std::string ForMessage(Program& program, const std::string& words) {
 }
 
 void TellNotStarted(Program& program, const std::string& executable, const std::string& reason,
-                    GameSlots slots, const std::string& more = "") {
+                    GameSlots slots, const std::string& last_words = "") {
   std::string text = LoadMessage(kGameNotStarted, {Quoted(executable), reason});
-  if (!more.empty()) text += kLineBreak + more;
+  if (!last_words.empty()) text += kLineBreak + LoadMessage(kGameLastWords, {last_words});
   if (slots == GameSlots::kFilledByPlay) text += kLineBreak + LoadMessage(kSavegamesInSlots);
   Tell(program, text, BoxIcon::kExclamation);
 }

@@ -470,7 +470,8 @@ TEST_F(RunningGameTest, WhyItDoesNotStartIsTold) {
   shell.missing = {};
   shell.answer = false;
   shell.started.last_words = "Not \xE2\x82\xAC\nnow";
-  EXPECT_TRUE(Contains(start("text"), "this file is no program.\r\nNot \x80 now"));
+  EXPECT_TRUE(
+      Contains(start("text"), "this file is no program.\r\nThe last words about it: Not \x80 now"));
   EXPECT_TRUE(Contains(start(program32), "the system has refused it"));
   disk.Remove({"Game/tomb4.exe"});
   StartGame(*program);
@@ -489,7 +490,8 @@ TEST_F(RunningGameTest, AStartThatEndsAtOnceIsTold) {
   StartGame(*program);
   EXPECT_EQ(told_in(9), "");
   shell.started = {true, 0xC0000135, "it lacks a library"};
-  EXPECT_TRUE(Contains(told_in(9), "with error 0xc0000135.\r\nit lacks a library\n"));
+  EXPECT_TRUE(Contains(told_in(9),
+                       "with error 0xc0000135.\r\nThe last words about it: it lacks a library\n"));
   EXPECT_EQ(boxes.shown.size(), 1U);
 
   shell.started = {true, 0, ""};
@@ -508,7 +510,7 @@ TEST_F(RunningGameTest, AStartThatEndsAtOnceIsTold) {
   shell.started = {true, 1, "it crashed later"};
   EXPECT_EQ(told_in(100), "");
   Play({0});
-  EXPECT_TRUE(Contains(told_in(1), "with error 1.\r\nit crashed later\r\nThe savegames are in"));
+  EXPECT_TRUE(Contains(told_in(1), "it crashed later\r\nThe savegames are in its slots."));
 }
 
 // A play, a save by the game, a play in which that must be set aside, and the restore.
