@@ -12,6 +12,8 @@ namespace vellumark {
 struct Failure {
   std::string path;
   FileError why = FileError::kNone;
+
+  bool operator==(const Failure&) const = default;
 };
 
 // The reason in words, without a full stop. kNone, for a file that was read but is too short or

@@ -96,7 +96,7 @@ struct Drive {
 
 // A folder listed once and held open, for reading many of its files at the cost of the bare
 // system calls. The entries are those of the moment of opening; a file that has vanished since
-// answers kNotFound.
+// answers kNotFound. One of a file system that WorksOnThreads may be asked by several at once.
 class FolderReader {
  public:
   virtual ~FolderReader() = default;
@@ -148,6 +148,10 @@ class FileSystem {
 
   // Opens and lists a folder. Never null; a failure is the listing's error.
   virtual std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) = 0;
+
+  // Whether its FolderReaders, each by itself, can be used on several threads. The file system is
+  // for one thread at a time all the same.
+  virtual bool WorksOnThreads() const { return false; }
 
   // The first `limit` bytes of a file.
   virtual ReadResult Read(const std::string& path, std::size_t limit) = 0;

@@ -18,6 +18,8 @@ struct SavegameEntry {
   std::string SavegamePath;  // lower case
   std::string NotePath;      // whether or not the file exists
   std::string ShotPath;      // whether or not the file exists
+
+  bool operator==(const SavegameEntry&) const = default;
 };
 
 // The files of a savegame, as a command remembers them when it starts.

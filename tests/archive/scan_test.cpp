@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "archive/catalogue_builder.h"
 #include "savegames/notes.h"
 #include "savegames/savegame_header.h"
 #include "support/host_paths.h"
@@ -11,6 +12,7 @@ namespace vellumark {
 namespace {
 
 using testing::Contains;
+using testing::DiskTellsCaseApart;
 using testing::OpenWorld;
 using testing::SavegameBytes;
 using Field = MainWindow::Field;
@@ -179,6 +181,51 @@ TEST_F(ScanTest, StopsWhenTheTableIsFullAndSaysSo) {
   EXPECT_EQ(program.catalogue.EntryCount(), 10001);
   ASSERT_EQ(boxes.shown.size(), 1U);
   EXPECT_TRUE(Contains(boxes.shown[0].text, "Only the first 10001"));
+}
+
+// The decorated file system of the tests is read by one thread, the disk itself by many.
+TEST_F(ScanTest, ManyThreadsFindWhatOneFinds) {
+  ASSERT_TRUE(!files.WorksOnThreads() && drives.files().WorksOnThreads());
+  for (int folder = 1; folder <= 40; ++folder) {
+    const std::string name = "Archive/Slot" + std::to_string(folder);
+    disk.MakeFolder(name);
+    for (int slot = folder % 3; slot < folder % 7; ++slot) {
+      AddSavegame(name, slot, "Level " + std::to_string(folder), static_cast<std::int16_t>(slot));
+      disk.Write(name + "/note" + std::to_string(slot) + ".txt", std::string(10U * slot, 'n'));
+    }
+    if (folder % 5 == 0) disk.Write(name + "/savegame.9", "short");
+    if (folder % 6 == 0) disk.Write(name + "/~vm~savegame.1", "half");
+    if (folder % 8 == 0) disk.MakeFolder(name + "/savegame.10");
+  }
+  if (DiskTellsCaseApart()) {
+    disk.Write("Archive/Slot3/SAVEGAME.1", "twin");
+    disk.MakeFolder("Archive/sLOT7");
+    disk.Write("Archive/Slot9/shot1.JPG", "x");
+  }
+  AddSavegame("Game", 0, "Game", 1);
+  ArchiveSettings settings = testing::WorldSettings();
+  for (const std::int16_t most : {std::int16_t{15}, std::int16_t{10100}}) {
+    settings.MaxSavegame = most;
+    // More than a catalogue holds, with the limit in the midst of a folder.
+    for (int slot = 20; most > 15 && slot < 5120; ++slot) {
+      disk.Write("Archive/Slot20/savegame." + std::to_string(slot), "x");
+      disk.Write("Archive/Slot30/savegame." + std::to_string(slot), "x");
+    }
+    for (const bool all : {false, most == 15}) {
+      const CatalogueRequest request{settings, "T:\\Game", all};
+      const ScannedCatalogue one = BuildCatalogue(files, text, request);
+      const ScannedCatalogue many = BuildCatalogue(drives.files(), text, request);
+      EXPECT_GT(one.catalogue.entries.size(), 50U);
+      EXPECT_EQ(one.table_full, most > 15);
+      EXPECT_EQ(many.table_full, one.table_full);
+      EXPECT_TRUE(many.catalogue.entries == one.catalogue.entries);
+      EXPECT_EQ(many.catalogue.FolderCount, one.catalogue.FolderCount);
+      EXPECT_EQ(many.has_shot, one.has_shot);
+      EXPECT_TRUE(many.failures == one.failures);
+      EXPECT_EQ(many.ambiguous, one.ambiguous);
+      EXPECT_EQ(many.leftovers, one.leftovers);
+    }
+  }
 }
 
 TEST_F(ScanTest, SurvivesTheFailureOfAnyCall) {

@@ -41,6 +41,7 @@ class PosixFileSystem final : public FileSystem {
   AttributesResult Attributes(const std::string& path) override;
   Listing List(const std::string& pattern) override;
   std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) override;
+  bool WorksOnThreads() const override { return true; }
   ReadResult Read(const std::string& path, std::size_t limit) override;
   bool SameContent(const std::string& a, const std::string& b) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;

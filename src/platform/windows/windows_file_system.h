@@ -35,6 +35,7 @@ class WindowsFileSystem final : public FileSystem {
   AttributesResult Attributes(const std::string& path) override;
   Listing List(const std::string& pattern) override;
   std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) override;
+  bool WorksOnThreads() const override { return true; }
   ReadResult Read(const std::string& path, std::size_t limit) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;
 
