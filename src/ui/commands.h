@@ -14,8 +14,7 @@ struct Command {
   const char* button;     // the button that does the same, or null
   const char* shortcut;   // in Qt's portable form, or empty
   void (*run)(Program&);  // null: not available, shown disabled
-  bool of_list =
-      false;  // the shortcut is the list's alone; elsewhere the key has its usual meaning
+  bool of_list = false;   // the shortcut works in the list only
 };
 
 // In the order of the menus; an item named "-" is a separator. mnu_Exit has no run of its own: it

@@ -4,6 +4,7 @@
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "ui/caption_setter.h"
+#include "ui/screen_room.h"
 
 namespace vellumark {
 
@@ -11,6 +12,11 @@ ModalDialog::ModalDialog(WindowId window, Program& program)
     : QDialog(ModalOpener()), window_(window), program_(program) {
   setObjectName(QLatin1String(NameOf(window)));
   setModal(true);
+}
+
+void ModalDialog::showEvent(QShowEvent* event) {
+  resize(size().boundedTo(RoomOnScreen(*this)));
+  QDialog::showEvent(event);  // finds the place for it
 }
 
 void ModalDialog::SetCaptions() { SetWindowCaptions(*this, window_, program_.text); }

@@ -13,7 +13,7 @@ namespace vellumark {
 struct Program;
 
 // A dialog that lives for one opening: made, prepared, shown, released. It opens centred over the
-// window that is modal at that moment. Escape and the close control cancel it.
+// window that is modal at that moment, inside the screen. Escape and the close control cancel it.
 class ModalDialog : public QDialog {
   Q_OBJECT
 
@@ -24,6 +24,8 @@ class ModalDialog : public QDialog {
   virtual void ImpostaValori() = 0;
 
  protected:
+  void showEvent(QShowEvent* event) override;
+
   // Gives the controls their captions, by their object names; to be called when all are made.
   void SetCaptions();
 

@@ -8,7 +8,7 @@
 namespace vellumark {
 namespace {
 
-constexpr QSize kLeastSize(240, 180);
+constexpr QSize kLeastSize(64, 48);
 
 }  // namespace
 
@@ -44,7 +44,6 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
 }
 
 ShotBox::ShotBox(FileSystem& files, QWidget* parent) : PictureBox(files, parent) {
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setMinimumSize(kLeastSize);
 }
 
@@ -56,8 +55,7 @@ QRect ShotBox::PictureArea() const {
 
 void ShotBox::resizeEvent(QResizeEvent* event) {
   PictureBox::resizeEvent(event);
-  const int highest = std::max(kLeastSize.height(), window()->height() / 2);
-  setFixedHeight(std::min(width() * 3 / 4, highest));
+  setMaximumHeight(width() * 3 / 4);
 }
 
 }  // namespace vellumark

@@ -36,8 +36,8 @@ class PictureBox : public QWidget {
   QPixmap scaled_;  // the picture at the size it was painted last
 };
 
-// The picture in the main window: always 4:3, as wide as its place, but not higher than about half
-// of the window.
+// The picture in the main window: always 4:3, in the middle of its place. The place is never higher
+// than that.
 class ShotBox final : public PictureBox {
   Q_OBJECT
 

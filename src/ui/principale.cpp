@@ -10,10 +10,10 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "foundation/messages.h"
@@ -33,13 +33,13 @@
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
 #include "ui/savegame_list.h"
+#include "ui/screen_room.h"
 #include "ui/screen_shot_viewer.h"
+#include "ui/wrapping_row.h"
 
 namespace vellumark {
 namespace {
 
-// What a window manager's frame takes of a small screen.
-constexpr QSize kFrameRoom(16, 40);
 constexpr int kTimerInterval = 500;  // milliseconds
 constexpr int kPaintInterval = 100;  // milliseconds
 
@@ -69,17 +69,23 @@ QPushButton* Button(const char* name, QWidget* parent) {
   return button;
 }
 
+void FillRow(QWidget* line, std::initializer_list<QWidget*> controls) {
+  auto* row = new QHBoxLayout(line);
+  row->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* control : controls) row->addWidget(control);
+}
+
 }  // namespace
 
 Principale::Principale(FileSystem& files, const Text& text) : files_(files), text_(text) {
   setObjectName(QStringLiteral("Principale"));
+  resize(QSize(1120, 700).boundedTo(RoomOnScreen(*this)));
   BuildMenus();
   BuildCentre();
   SetTabOrder();
   NameControlsWithoutCaption();
   timer_.setObjectName(QStringLiteral("Timer1"));
   timer_.setInterval(kTimerInterval);
-  resize(QSize(1120, 700).boundedTo(screen()->availableGeometry().size() - kFrameRoom));
   list_->setFocus();
 }
 
@@ -126,13 +132,14 @@ void Principale::BuildCentre() {
   auto* splitter = new QSplitter(Qt::Horizontal, centre);
   splitter->setChildrenCollapsible(false);
   list_ = Named(new SavegameList(splitter), "List1");
-  list_->setMinimumWidth(320);
+  list_->setMinimumWidth(160);
   BuildContextMenu();
   splitter->addWidget(list_);
   splitter->addWidget(BuildDetails());
   splitter->setStretchFactor(0, 1);
   splitter->setStretchFactor(1, 0);
-  splitter->setSizes({740, 350});
+  const int details_width = std::min(350, width() * 2 / 5);
+  splitter->setSizes({width() - details_width, details_width});
   column->addWidget(splitter, 1);
   column->addWidget(BuildPathLine());
   column->addWidget(BuildBottomLine());
@@ -149,13 +156,13 @@ QWidget* Principale::BuildDetails() {
   note_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   note_->setTabChangesFocus(true);
   note_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  note_->setMinimumHeight(60);
+  note_->setMinimumHeight(2 * note_->fontMetrics().lineSpacing());
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(Button("Pul_Zoom", details));
   buttons->addWidget(Button("Pul_CambiaProp", details));
-  column->addWidget(picture_);
+  column->addWidget(picture_, 3);
   column->addLayout(buttons);
-  column->addWidget(note_, 1);
+  column->addWidget(note_, 2);
   return details;
 }
 
@@ -171,31 +178,28 @@ QWidget* Principale::BuildPathLine() {
 
 QWidget* Principale::BuildBottomLine() {
   auto* line = new QWidget(this);
-  auto* row = new QHBoxLayout(line);
-  row->setContentsMargins(0, 0, 0, 0);
-  total_savegames_ = NumberField("Text_TotSavegame", line, QStringLiteral("10001"));
-  total_folders_ = NumberField("Text_TotCartelle", line, QStringLiteral("10001"));
-  found_ = NumberField("Text_Trovati", line, QStringLiteral(" 10001/10001"));
-  auto* previous = Button("Pul_Precedente", line);
+  auto* totals = new QWidget(line);
+  total_savegames_ = NumberField("Text_TotSavegame", totals, QStringLiteral("10001"));
+  total_folders_ = NumberField("Text_TotCartelle", totals, QStringLiteral("10001"));
+  FillRow(totals, {LabelFor("Label6", total_savegames_), total_savegames_,
+                   LabelFor("Label5", total_folders_), total_folders_});
+
+  auto* search = new QWidget(line);
+  found_ = NumberField("Text_Trovati", search, QStringLiteral(" 10001/10001"));
+  auto* previous = Button("Pul_Precedente", search);
   previous->setText(QStringLiteral("<<"));
-  auto* next = Button("Pul_Seguente", line);
+  auto* next = Button("Pul_Seguente", search);
   next->setText(QStringLiteral(">>"));
   for (QPushButton* step : {previous, next}) {
     step->setMaximumWidth(step->fontMetrics().horizontalAdvance(QStringLiteral("<<")) + 32);
   }
+  FillRow(search, {Button("Pul_Cerca", search), previous, found_, next});
 
-  row->addWidget(LabelFor("Label6", total_savegames_));
-  row->addWidget(total_savegames_);
-  row->addWidget(LabelFor("Label5", total_folders_));
-  row->addWidget(total_folders_);
-  row->addStretch(1);
-  row->addWidget(Button("Pul_Cerca", line));
-  row->addWidget(previous);
-  row->addWidget(found_);
-  row->addWidget(next);
-  row->addStretch(1);
-  row->addWidget(Button("Pul_Play", line));
-  row->addWidget(Button("Pul_StartTomb", line));
+  auto* game = new QWidget(line);
+  FillRow(game, {Button("Pul_Play", game), Button("Pul_StartTomb", game)});
+
+  auto* row = new WrappingRow(line);
+  for (QWidget* group : {totals, search, game}) row->addWidget(group);
   return line;
 }
 

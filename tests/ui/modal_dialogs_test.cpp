@@ -16,6 +16,7 @@ class ModalDialogsTest : public WindowFixture {
  private slots:
   void EachHasItsCaptionsKeysAndPlace_data();
   void EachHasItsCaptionsKeysAndPlace();
+  void OneThatIsTooLargeOpensInsideTheScreen();
 
  private:
   void Prepare() override { world_->AddSavegame("Archive/Slot1", 0, "Tower", 1); }
@@ -91,11 +92,26 @@ void ModalDialogsTest::EachHasItsCaptionsKeysAndPlace() {
              ExpectTabOrder(tab_order.split(u' '));
              ExpectAccessKeys(dialog, id);
 
-             QVERIFY(dialog->width() <= 1024 && dialog->height() <= 600);
+             QVERIFY(QSize(624, 410).expandedTo(dialog->minimumSizeHint()) == QSize(624, 410));
              const QPoint off_centre =
                  dialog->frameGeometry().center() - window_->frameGeometry().center();
              QVERIFY2(off_centre.manhattanLength() <= 60, "it opens over the middle of its opener");
            });
+}
+
+class LargeDialog final : public ModalDialog {
+ public:
+  explicit LargeDialog(Program& program) : ModalDialog(WindowId::kDialogNote, program) {
+    resize(5000, 5000);
+  }
+  void ImpostaValori() override {}
+};
+
+void ModalDialogsTest::OneThatIsTooLargeOpensInsideTheScreen() {
+  LargeDialog dialog(*program_);
+  dialog.show();
+  const QRect screen = dialog.screen()->availableGeometry();
+  QVERIFY(screen.contains(dialog.frameGeometry()) && dialog.width() > screen.width() / 2);
 }
 
 }  // namespace vellumark

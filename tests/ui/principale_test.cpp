@@ -32,7 +32,7 @@ class PrincipaleTest : public WindowFixture {
   void ARowShowsControlCharactersAsMarksOrBlanks();
   void RescanKeepsNothingOfTheOldList();
   void TheViewerShowsThePictureOfItsOpening();
-  void ThePictureKeepsItsProportion();
+  void TheWindowFitsSmallScreensAndLarge();
   void HelpOpensTheTextBesideTheProgram();
   void ClosingShutsDownOnce();
 
@@ -291,12 +291,23 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);
 }
 
-void PrincipaleTest::ThePictureKeepsItsProportion() {
-  for (const QSize size : {QSize(1024, 600), QSize(1280, 800), QSize(1920, 1080)}) {
+int IsRed(const QImage& image, QPoint at) { return image.pixelColor(at).blue() < 60 ? 1 : 0; }
+
+void PrincipaleTest::TheWindowFitsSmallScreensAndLarge() {
+  Press(Qt::Key_Down);
+  for (const QSize size : {QSize(1920, 1080), QSize(784, 560), QSize(624, 410)}) {
     window_->resize(size);
     QTest::qWait(20);
-    const QWidget* picture = Find<QWidget>("Image1");
-    QVERIFY(std::abs(picture->width() * 3 - picture->height() * 4) <= 4);
+    for (const auto* button : window_->findChildren<QPushButton*>()) {
+      const QRegion seen = button->visibleRegion();
+      QVERIFY2(seen == QRegion(button->rect()), qPrintable(button->objectName()));
+    }
+    const QImage picture = Find<QWidget>("Image1")->grab().toImage();
+    int width = 0;
+    int height = 0;
+    for (int x = 0; x < picture.width(); ++x) width += IsRed(picture, {x, picture.height() / 2});
+    for (int y = 0; y < picture.height(); ++y) height += IsRed(picture, {picture.width() / 2, y});
+    QVERIFY(height >= 48 && std::abs(width * 3 - height * 4) <= 4);
     QCOMPARE(window_->size(), size);
   }
 }

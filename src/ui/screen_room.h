@@ -1,0 +1,18 @@
+// The room that a screen has for windows.
+#ifndef VELLUMARK_UI_SCREEN_ROOM_H_
+#define VELLUMARK_UI_SCREEN_ROOM_H_
+
+#include <QScreen>
+#include <QWidget>
+
+namespace vellumark {
+
+// The largest size at which a window lies with its frame inside the free area of its screen.
+inline QSize RoomOnScreen(const QWidget& window) {
+  constexpr QSize kFrame(16, 40);  // at most; how large it is shows only later
+  return window.screen()->availableGeometry().size() - kFrame;
+}
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_UI_SCREEN_ROOM_H_
