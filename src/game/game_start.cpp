@@ -66,7 +66,7 @@ std::string WhyRefused(ProgramKind kind) {
 std::string Describe(const MissingPart& missing) {
   if (missing.kind == MissingPart::Kind::kNothing) return {};
   if (missing.kind == MissingPart::Kind::kWine) return LoadMessage(kReasonNeedsWine);
-  const std::string text = LoadMessage(kReasonOnly64Bit);
+  std::string text = LoadMessage(kReasonOnly64Bit);
   if (missing.package.empty()) return text;
   return text + LoadMessage(kPackageToInstall, {missing.package});
 }

@@ -42,7 +42,7 @@ StartedProgram ReadLog(const QByteArray& log) {
   for (const QByteArray& line : WithoutAdvice(log).split('\n')) {
     if (line.startsWith(kEndMark)) {
       started.ended = true;
-      started.exit_code = line.mid(qstrlen(kEndMark)).trimmed().toUInt();
+      started.exit_code = line.mid(QByteArrayView(kEndMark).size()).trimmed().toUInt();
       break;
     }
     if (!line.trimmed().isEmpty()) started.last_words = line.trimmed().toStdString();
