@@ -32,8 +32,9 @@ ScannedCatalogue ReadFolders(Program& program) {
   settings.GameFolder = Trimmed(settings.GameFolder);
 
   // While archived savegames occupy the game's slots, the player's own lie in the backup folder.
-  const std::string& game_folder =
-      program.play.ExaminedInGameFolder ? program.play.BackupFolder : settings.GameFolder;
+  const std::string& game_folder = program.play.ExaminedInGameFolder && !program.play.given_back
+                                       ? program.play.BackupFolder
+                                       : settings.GameFolder;
   return BuildCatalogue(program.files, program.text,
                         {.settings = settings,
                          .game_folder = game_folder,

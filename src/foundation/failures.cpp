@@ -27,12 +27,20 @@ std::string ReasonFor(FileError error) {
       return LoadMessage(kReasonAmbiguous);
     case FileError::kNotEmpty:
       return LoadMessage(kReasonNotEmpty);
+    case FileError::kNotAFolder:
+      return LoadMessage(kReasonNotAFolder);
     case FileError::kInUse:
       return LoadMessage(kReasonInUse);
     case FileError::kInputOutput:
       break;
   }
   return LoadMessage(kReasonInputOutput);
+}
+
+Failure FailureOfCopy(FileSystem& files, const std::string& source, const std::string& target,
+                      FileError error) {
+  const bool is_readable = files.Read(source, 1).error == FileError::kNone;
+  return {is_readable ? target : source, error};
 }
 
 std::string DescribeFailures(const std::vector<Failure>& failures) {

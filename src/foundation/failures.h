@@ -20,6 +20,11 @@ struct Failure {
 // not what it should be, has words too.
 std::string ReasonFor(FileError error);
 
+// The failure of a copy, on the side that it is on: the source where that cannot be read, else the
+// target.
+Failure FailureOfCopy(FileSystem& files, const std::string& source, const std::string& target,
+                      FileError error);
+
 // One line for each failure: the path in quotes and the reason. Long lists end with the number of
 // failures left out.
 std::string DescribeFailures(const std::vector<Failure>& failures);

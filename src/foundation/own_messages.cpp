@@ -24,6 +24,26 @@ constexpr TableMessage kOwnMessages[] = {
      "Warning: savegames left by a previous run could not be moved out of the backup folder. They "
      "are still there, and nothing was deleted:"},
     {kRescueFolder, "\\rescued"},
+    {kRescueListName, "rescued.txt"},
+    {kRescueListHead, "Set aside by Vellumark, so that nothing is lost"},
+
+    {kBackupLabelName, "backup.txt"},
+    {kBackupLabelHead, "Savegames put aside by Vellumark while archived ones are played"},
+    {kPutSlotsBack,
+     "The last run of Vellumark ended while archived savegames were in Tomb Raider folder ~1. Your "
+     "own savegames are safe in the backup folder.~2Do you want to put them back now?"},
+    {kSlotsPutBack, "Your own savegames are back in Tomb Raider folder ~1"},
+    {kArchiveThemNow, "Do you want to put these savegames into the archive now?"},
+    {kRescuedArchived, "Savegames put into the archive: ~1"},
+    {kRescuedNotArchived, "Some savegames could not be put into the archive and stay set aside:"},
+    {kRescuedInGame, "Savegames put into folder ~2: ~1"},
+    {kSlotsNotFree, "These savegames stay set aside, because their slots are in use:"},
+    {kWhyLeftInBackup, "left in the backup folder by a previous run"},
+    {kWhyOtherBackup, "in the backup folder when savegames were played"},
+    {kWhyInGameSlots, "in the game's slots, and nowhere else, when they were cleared"},
+    {kWhyInTheWay, "had the name of a savegame that was copied"},
+    {kWhyNotInNewArchive, "in the old archive when it was deleted, and not in the new one"},
+    {kWhyNotLinked, "typed for a captured screen-shot that was not linked"},
 
     {kPreferencesNotReadWhole,
      "Warning: the preferences file ~1 could not be read whole: ~2.\r\nWhat is missing takes its "
@@ -240,6 +260,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kReasonBadName, "this is not a possible name"},
     {kReasonAmbiguous, "the name exists twice, in upper and lower case"},
     {kReasonNotEmpty, "the folder is not empty"},
+    {kReasonNotAFolder, "it is a file, not a folder"},
     {kReasonInUse, "another program is using it"},
     {kReasonInputOutput, "it could not be read or written"},
     {kReasonFolder, "it is a folder"},

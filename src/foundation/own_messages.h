@@ -13,6 +13,26 @@ enum OwnMessage : int {
   kSlotsSetAside,          // ~1 folder, ~2 line break, ~3 new folder
   kSlotsNotSetAside,       // followed by failure lines
   kRescueFolder,           // path tail
+  kRescueListName,         // file name
+  kRescueListHead,         // first line of that file
+
+  kBackupLabelName,     // file name
+  kBackupLabelHead,     // first line of that file
+  kPutSlotsBack,        // ~1 game folder, ~2 line break; question
+  kSlotsPutBack,        // ~1 game folder
+  kArchiveThemNow,      // question
+  kRescuedArchived,     // ~1 number
+  kRescuedNotArchived,  // followed by failure lines
+  kRescuedInGame,       // ~1 number, ~2 game folder
+  kSlotsNotFree,        // followed by failure lines
+
+  // Why something was set aside, in that file
+  kWhyLeftInBackup,
+  kWhyOtherBackup,
+  kWhyInGameSlots,
+  kWhyInTheWay,
+  kWhyNotInNewArchive,
+  kWhyNotLinked,
 
   // Settings files
   kPreferencesNotReadWhole,  // ~1 file, ~2 reason
@@ -149,6 +169,7 @@ enum OwnMessage : int {
   kReasonBadName,
   kReasonAmbiguous,
   kReasonNotEmpty,
+  kReasonNotAFolder,
   kReasonInUse,
   kReasonInputOutput,
   kReasonFolder,

@@ -1,12 +1,15 @@
 #include "game/backup_folder.h"
 
+#include <utility>
+
 #include "foundation/failures.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
+#include "foundation/report.h"
 #include "foundation/rescue.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
-#include "platform/file_system.h"
+#include "game/backup_label.h"
 #include "program.h"
 #include "savegames/slot_folders.h"
 
@@ -15,25 +18,32 @@ namespace vellumark {
 void PrepareBackupFolder(Program& program) {
   std::string& folder = program.play.BackupFolder;
   folder = program.paths.ProgramFolder + LoadMessage(291);
-  FileError error = program.files.Attributes(folder).error;
+  const AttributesResult found = program.files.Attributes(folder);
+  FileError error = found.error;
   if (error == FileError::kNotFound) error = program.files.CreateFolder(folder);
-  if (error != FileError::kNone) {
-    Tell(program, LoadMessage(kBackupFolderNotReady, {Quoted(folder), ReasonFor(error)}),
-         BoxIcon::kExclamation);
-    return;
-  }
+  if (found.error == FileError::kNone && !found.attributes.folder) error = FileError::kNotAFolder;
+  if (error == FileError::kNone) return;
+  Tell(program, LoadMessage(kBackupFolderNotReady, {Quoted(folder), ReasonFor(error)}),
+       BoxIcon::kExclamation);
+}
+
+void SetBackupAside(Program& program) {
+  const std::string folder = program.play.BackupFolder;
+  program.play = {};
+  program.play.BackupFolder = folder;
 
   // Moving them away is what empties the folder: what could not be listed or moved is not deleted.
-  const Rescue rescue = SetAside(program, FilesOfSlots(program.files, folder));
-  std::string text;
-  if (!rescue.folder.empty()) {
-    text = LoadMessage(kSlotsSetAside, {Quoted(folder), kLineBreak, Quoted(rescue.folder)});
+  Rescue rescue(program);
+  rescue.Take(FilesOfSlots(program.files, folder), kWhyLeftInBackup);
+  RemoveBackupLabel(program.files, folder);
+  Report report;
+  if (!rescue.folder().empty()) {
+    report.Add(LoadMessage(kSlotsSetAside, {Quoted(folder), kLineBreak, Quoted(rescue.folder())}));
   }
-  if (!rescue.failures.empty()) {
-    if (!text.empty()) text += std::string(kLineBreak) + kLineBreak;
-    text += LoadMessage(kSlotsNotSetAside) + DescribeFailures(rescue.failures);
+  if (!rescue.failures().empty()) {
+    report.Add(LoadMessage(kSlotsNotSetAside) + DescribeFailures(rescue.failures()));
   }
-  if (!text.empty()) Tell(program, text, BoxIcon::kExclamation);
+  report.Show(program);
 }
 
 }  // namespace vellumark

@@ -7,9 +7,13 @@ namespace vellumark {
 
 struct Program;
 
-// Sets BackupFolder, makes the folder when it is missing and empties it. Slot files that an earlier
-// run left there are set aside first; those that cannot be moved stay, and nothing is deleted then.
+// Sets BackupFolder and makes the folder when it is missing. The user is told when there is none
+// that can be used.
 void PrepareBackupFolder(Program& program);
+
+// Empties BackupFolder of what an earlier run left there, and forgets whose it was: slot files are
+// set aside, which the user is told; those that cannot be moved stay, and nothing is deleted.
+void SetBackupAside(Program& program);
 
 }  // namespace vellumark
 

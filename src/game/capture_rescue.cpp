@@ -20,8 +20,10 @@ std::string SetTypedNoteAside(Program& program) {
 
   // Without a slot the names have no number.
   const std::string slot = capture.SelectedSlot < 0 ? "" : std::to_string(capture.SelectedSlot);
-  std::string folder;
-  FileError error = MakeRescueFolder(program, folder);
+  Rescue rescue(program);
+  FileError error = rescue.MakeFolder(kWhyNotLinked);
+  const std::string folder =
+      error == FileError::kNone ? rescue.folder() : rescue.failures().back().path;
   if (error == FileError::kNone) {
     error = WriteNoteFile(program.files, InFolder(folder, LoadMessage(306, {slot})), note);
   }

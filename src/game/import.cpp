@@ -1,7 +1,6 @@
 #include "game/import.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 
 #include "archive/scan.h"
@@ -9,10 +8,12 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
+#include "foundation/report.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/working.h"
+#include "game/next_subfolder.h"
 #include "game/slot_release.h"
 #include "program.h"
 #include "savegames/info_file.h"
@@ -52,26 +53,6 @@ bool MayImport(Program& program) {
   return true;
 }
 
-// Makes the sub-folder with the first number that is free; nothing when that fails, which is told.
-std::optional<std::string> MakeNextSubfolder(Program& program, const std::string& main_folder) {
-  const std::string stem =
-      InFolder(main_folder, Trimmed(program.archive.settings.SubfolderBaseName));
-  FileError error = FileError::kNone;
-  for (int n = 1;; ++n) {
-    const std::string folder = stem + std::to_string(n);
-    error = program.files.Attributes(folder).error;
-    if (error == FileError::kNone) continue;
-    if (error == FileError::kNotFound) error = program.files.CreateFolder(folder);
-    if (error == FileError::kNone) return folder;
-
-    Refuse(program,
-           LoadMessage(kSubfolderNotMade, {Quoted(folder), ReasonFor(error), kLineBreak,
-                                           Quoted(Trimmed(program.archive.settings.GameFolder))}),
-           BoxIcon::kCritical);
-    return std::nullopt;
-  }
-}
-
 // What an import could not do, for the one message at its end.
 struct ImportProblems {
   std::vector<Failure> not_copied;
@@ -82,30 +63,28 @@ struct ImportProblems {
 
 void ReportProblems(Program& program, const std::string& game_folder,
                     const ImportProblems& problems) {
-  std::string text;
-  const auto add = [&text](const std::string& paragraph) {
-    if (!text.empty()) text += std::string(kLineBreak) + kLineBreak;
-    text += paragraph;
-  };
+  Report report;
   if (!problems.not_copied.empty()) {
-    add(LoadMessage(kImportNotCopied, {Quoted(game_folder)}) +
-        DescribeFailures(problems.not_copied));
+    report.Add(LoadMessage(kImportNotCopied, {Quoted(game_folder)}) +
+               DescribeFailures(problems.not_copied));
   }
   if (problems.release.flush != FileError::kNone) {
-    add(LoadMessage(kImportNotFlushed, {ReasonFor(problems.release.flush), Quoted(game_folder)}));
+    report.Add(
+        LoadMessage(kImportNotFlushed, {ReasonFor(problems.release.flush), Quoted(game_folder)}));
   }
   if (!problems.release.not_deleted.empty()) {
-    add(LoadMessage(kImportNotDeleted, {Quoted(game_folder)}) +
-        DescribeFailures(problems.release.not_deleted));
+    report.Add(LoadMessage(kImportNotDeleted, {Quoted(game_folder)}) +
+               DescribeFailures(problems.release.not_deleted));
   }
   if (problems.release.rename != FileError::kNone) {
-    add(LoadMessage(kImportNotRenamed, {FileNameOf(problems.release.highest_file),
-                                        ReasonFor(problems.release.rename)}));
+    report.Add(LoadMessage(kImportNotRenamed, {FileNameOf(problems.release.highest_file),
+                                               ReasonFor(problems.release.rename)}));
   }
   if (problems.info != FileError::kNone) {
-    add(LoadMessage(kInfoNotWritten, {Quoted(problems.info_file), ReasonFor(problems.info)}));
+    report.Add(
+        LoadMessage(kInfoNotWritten, {Quoted(problems.info_file), ReasonFor(problems.info)}));
   }
-  if (!text.empty()) Tell(program, text, BoxIcon::kExclamation);
+  report.Show(program);
 }
 
 }  // namespace
@@ -133,20 +112,27 @@ void ImportSavegames(Program& program) {
     settings.MainFolder = main_folder;
   }
   const std::string game_folder = Trimmed(settings.GameFolder);
-  const auto subfolder = MakeNextSubfolder(program, main_folder);
-  if (!subfolder) return;
+  std::string subfolder;
+  const FileError not_made = MakeNextSubfolder(program, subfolder);
+  if (not_made != FileError::kNone) {
+    Refuse(program,
+           LoadMessage(kSubfolderNotMade,
+                       {Quoted(subfolder), ReasonFor(not_made), kLineBreak, Quoted(game_folder)}),
+           BoxIcon::kCritical);
+    return;
+  }
 
   ImportProblems problems;
   SlotCopies copies;
   {
     const WorkScope working(program);
-    copies = CopySlots(program.files, game_folder, *subfolder, settings.MaxSavegame);
+    copies = CopySlots(program.files, game_folder, subfolder, settings.MaxSavegame);
     if (copies.count > 0) {
-      problems.release = ReleaseCopiedSlots(program.files, game_folder, *subfolder, copies);
+      problems.release = ReleaseCopiedSlots(program.files, game_folder, subfolder, copies);
       problems.not_copied = copies.failures;
       problems.info_file = main_folder + LoadMessage(328);
       problems.info =
-          WriteInfoSection(program, *subfolder, problems.info_file, InfoMode::kAppend).error;
+          WriteInfoSection(program, subfolder, problems.info_file, InfoMode::kAppend).error;
     }
   }
   if (copies.count == 0) {

@@ -11,15 +11,16 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
+#include "foundation/report.h"
+#include "foundation/rescue.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/working.h"
 #include "game/backup_paths.h"
+#include "game/own_slots.h"
 #include "game/restore.h"
 #include "game/running_game.h"
-#include "game/slot_backup.h"
-#include "game/slot_clearing.h"
 #include "platform/clipboard.h"
 #include "program.h"
 #include "savegames/copy_selected.h"
@@ -88,42 +89,21 @@ bool MayPlay(Program& program, const Indices& indices) {
   return true;
 }
 
-// What a play has to tell, in one message before the game comes up.
-class PlayReport {
- public:
-  void Add(const std::string& paragraph) {
-    if (!text_.empty()) text_ += std::string(kLineBreak) + kLineBreak;
-    text_ += paragraph;
-  }
-
-  void Show(Program& program) {
-    if (!text_.empty()) Tell(program, text_, BoxIcon::kExclamation);
-  }
-
- private:
-  std::string text_;
-};
-
 // Puts the player's own slots aside. False when that failed: the slots are as they were.
-bool PutOwnSlotsAside(Program& program, const std::string& game_folder, bool another_folder,
-                      PlayReport& report) {
+bool PutSlotsAside(Program& program, const std::string& game_folder, bool another_folder,
+                   Rescue& rescue, Report& report) {
   const std::string former_home = program.play.backup_of;
-  const SlotBackup backup = BackUpSlots(program, game_folder);
+  const std::vector<Failure> failures = PutOwnSlotsAside(program, game_folder, rescue);
   const std::string& folder = program.play.BackupFolder;
-  if (!backup.former.empty()) {
+  if (!rescue.folder().empty()) {
     report.Add(
         another_folder
-            ? LoadMessage(kOtherBackupSetAside, {Quoted(former_home), Quoted(backup.former)})
-            : LoadMessage(kSlotsSetAside, {Quoted(folder), kLineBreak, Quoted(backup.former)}));
+            ? LoadMessage(kOtherBackupSetAside, {Quoted(former_home), Quoted(rescue.folder())})
+            : LoadMessage(kSlotsSetAside, {Quoted(folder), kLineBreak, Quoted(rescue.folder())}));
   }
-  if (!backup.failures.empty()) {
-    report.Add(LoadMessage(kPlayNotBackedUp, {Quoted(game_folder)}) +
-               DescribeFailures(backup.failures));
-    return false;
-  }
-  program.play.placed.clear();
-  program.play.brought.clear();
-  return true;
+  if (failures.empty()) return true;
+  report.Add(LoadMessage(kPlayNotBackedUp, {Quoted(game_folder)}) + DescribeFailures(failures));
+  return false;
 }
 
 // The list goes on showing the player's own slots, which are in the backup now. In a later play its
@@ -137,35 +117,17 @@ void ListBackup(Program& program, const std::string& game_folder) {
   }
 }
 
-// Remembers what is in the slots now, and from where.
-void RememberPlaced(Program& program, const Indices& indices,
-                    const std::vector<std::string>& placed) {
-  PlayState& play = program.play;
-  play.ExaminedList = indices;
-  play.examined_paths.clear();
-  for (const std::int16_t index : indices) {
-    play.examined_paths.push_back(EntryAt(program, index).SavegamePath);
-  }
-  play.placed.clear();
-  for (const std::string& path : placed) {
-    ReadResult read = program.files.Read(path, FileSystem::kWholeFile);
-    if (read.error == FileError::kNone) {
-      play.placed.push_back({FileNameOf(path), std::move(read.bytes)});
-    }
-  }
-}
-
 // Replaces what is in the slots by the selected savegames. False when some of it failed.
 bool FillSlots(Program& program, const Indices& indices, const std::string& game_folder,
-               PlayReport& report) {
-  const SlotClearing clearing = ClearGameSlots(program, game_folder);
-  if (!clearing.set_aside.empty()) {
-    report.Add(LoadMessage(kGameSlotsSetAside, {Quoted(game_folder), Quoted(clearing.set_aside)}));
+               Rescue& rescue, Report& report) {
+  const SlotClearing clearing = ClearGameSlots(program, game_folder, rescue);
+  if (clearing.moved) {
+    report.Add(LoadMessage(kGameSlotsSetAside, {Quoted(game_folder), Quoted(rescue.folder())}));
   }
   if (!clearing.failures.empty()) {
     report.Add(LoadMessage(kSlotsNotCleared, {Quoted(game_folder)}) +
                DescribeFailures(clearing.failures));
-    if (clearing.deleted || !clearing.set_aside.empty()) program.play.ExaminedInGameFolder = true;
+    if (clearing.deleted || clearing.moved) program.play.ExaminedInGameFolder = true;
     return false;
   }
 
@@ -192,16 +154,19 @@ void PlaySelectedSavegames(Program& program) {
   const std::string game_folder = Trimmed(program.archive.settings.GameFolder);
   PlayState& play = program.play;
   const bool first = !play.ExaminedInGameFolder;
-  const bool another_folder = !first && !IsBackupOf(program, game_folder);
-  PlayReport report;
+  const bool another_folder = !first && !AreOwnSlotsAside(program, game_folder);
+  Report report;
+  Rescue rescue(program);
   bool safe = true;
   bool filled = false;
   {
     const WorkScope working(program);
     if (first || another_folder) {
-      safe = PutOwnSlotsAside(program, game_folder, another_folder, report);
+      safe = PutSlotsAside(program, game_folder, another_folder, rescue, report);
     }
-    if (safe) filled = FillSlots(program, indices, game_folder, report);
+    if (safe) filled = FillSlots(program, indices, game_folder, rescue, report);
+    // A play that has not happened leaves nothing.
+    if (!filled && safe && !play.ExaminedInGameFolder) TakeBackupAway(program);
     if (play.ExaminedInGameFolder) ListBackup(program, game_folder);
   }
   report.Show(program);

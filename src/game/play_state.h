@@ -40,6 +40,8 @@ struct PlayState {
   std::string backup_of;               // the game folder that the backup was taken from
   bool backup_whole = false;           // all of that folder's slots arrived in the backup
   std::vector<std::string> backed_up;  // the names of the files that the backup should hold
+  bool given_back = false;             // the backup has been copied back since the last play
+  bool declined = false;               // the player did not want it back since the last play
 
   std::vector<TopLevelWindow> WindowList;  // of the last lookup, titles in the code page
   StartWatch start_watch;

@@ -12,6 +12,11 @@ struct Program;
 // whole. The backup stays, and a later call asks again.
 void RestoreOriginalSavegames(Program& program);
 
+// The start: a run that ended while archived savegames were in the game's slots has left a whole,
+// labelled backup. Asks whether to put it back, as a restore does. What is not put back is set
+// aside. To be called when the settings of the archive are known and before anything is scanned.
+void OfferBackupOfEndedRun(Program& program);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_GAME_RESTORE_H_

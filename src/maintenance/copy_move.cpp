@@ -10,7 +10,7 @@
 #include "foundation/talk.h"
 #include "foundation/windows.h"
 #include "foundation/working.h"
-#include "game/slot_clearing.h"
+#include "game/own_slots.h"
 #include "maintenance/target_savegames.h"
 #include "program.h"
 

@@ -156,10 +156,11 @@ class OldArchiveDeletion {
 
   std::string MoveAway(const std::vector<std::string>& strange) {
     if (strange.empty()) return {};
-    const Rescue rescue = SetAside(program_, strange);
-    if (!rescue.folder.empty()) result_.set_aside.push_back(rescue.folder);
-    if (rescue.failures.empty()) return {};
-    const Failure& first = rescue.failures.front();
+    Rescue rescue(program_);
+    rescue.Take(strange, kWhyNotInNewArchive);
+    if (!rescue.folder().empty()) result_.set_aside.push_back(rescue.folder());
+    if (rescue.failures().empty()) return {};
+    const Failure& first = rescue.failures().front();
     return LoadMessage(kOldNotMoved, {Quoted(FileNameOf(first.path)), ReasonFor(first.why)});
   }
 

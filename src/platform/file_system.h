@@ -30,6 +30,7 @@ enum class FileError {
   kBadName,        // no name or path that can exist on this system
   kAmbiguous,      // the folder holds the name twice, in different letter case
   kNotEmpty,       // a folder to be removed still holds something
+  kNotAFolder,     // a file stands where a folder should
   kInUse,          // another program holds the file
   kInputOutput,    // the device failed, or anything else
 };

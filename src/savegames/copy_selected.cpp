@@ -35,7 +35,8 @@ class Copier {
         files_(program.files),
         folder_(folder),
         folder_key_(FolderKey(folder)),
-        mode_(mode) {}
+        mode_(mode),
+        rescue_(program) {}
 
   SelectedCopies Copy(const std::vector<SavegameFiles>& savegames, bool renumber) {
     const auto hold = files_.HoldFolders();
@@ -67,7 +68,7 @@ class Copier {
       if (lies_here(savegame)) lowest_free_ = std::min<int>(lowest_free_, savegame.slot);
     }
     if (!moved.empty()) DeleteSources(moved);
-    copies_.rescue_folder = rescue_.folder;
+    copies_.rescue_folder = rescue_.folder();
     return std::move(copies_);
   }
 
@@ -163,7 +164,7 @@ class Copier {
 
   // Sets a file aside whose content the copy would replace; kNotFound when its place is free then.
   FileError MakeRoom(const std::string& to) {
-    if (!SetAsideToo(program_, to, rescue_)) return FileError::kAlreadyExists;
+    if (!rescue_.Take({to}, kWhyInTheWay)) return rescue_.failures().back().why;
     copies_.set_aside.push_back(to);
     return FileError::kNotFound;
   }

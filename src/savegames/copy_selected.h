@@ -19,8 +19,8 @@ struct SelectedCopies {
   std::vector<std::string> targets;    // the files that arrived and were read back equal
   std::vector<Failure> not_copied;     // source files whose copy did not arrive
   std::vector<Failure> not_deleted;    // a move: copied, but still where they were
-  std::vector<std::string> set_aside;  // files of `folder` whose names the copies have taken ...
-  std::string rescue_folder;           // ... and the folder where they are now
+  std::vector<std::string> set_aside;  // files of `folder` whose names the copies have taken
+  std::string rescue_folder;           // where they are now
 };
 
 // Copies the savegames of these catalogue indices, each with its note and screen-shot, into

@@ -6,8 +6,8 @@
 #include "foundation/talk.h"
 #include "foundation/windows.h"
 #include "game/capture_rescue.h"
+#include "game/own_slots.h"
 #include "game/restore.h"
-#include "game/slot_backup.h"
 #include "program.h"
 #include "session/archive_commands.h"
 

@@ -14,6 +14,7 @@
 #include "foundation/talk.h"
 #include "game/backup_folder.h"
 #include "game/import.h"
+#include "game/restore.h"
 #include "platform/text.h"
 #include "program.h"
 
@@ -135,6 +136,7 @@ void StartUp(Program& program) {
   PrepareBackupFolder(program);
   ReadPreferences(program, named_archive);
   ReadLastArchive(program);
+  OfferBackupOfEndedRun(program);
   program.archive.ArchiveChanged = false;
 
   if (program.preferences.LastArchive.empty()) return;

@@ -52,6 +52,14 @@ class PlayWorld : public testing::TestWorld {
     Start();
   }
 
+  // What is in a folder besides what the program writes down about it.
+  Files SlotsIn(const std::string& folder) const {
+    Files slots = disk.AllFiles(folder);
+    slots.erase("backup.txt");
+    slots.erase("rescued.txt");
+    return slots;
+  }
+
   // What is in the game folder besides the game.
   Files InGame() const {
     Files slots = disk.AllFiles("Game");
@@ -80,7 +88,7 @@ class PlayWorld : public testing::TestWorld {
 
   void Restore(BoxAnswer answer) {
     boxes.shown.clear();
-    boxes.answers = {answer};
+    boxes.answers = {answer, BoxAnswer::kNo};  // what the game saved is not archived
     RestoreOriginalSavegames(*program);
   }
 
@@ -98,7 +106,7 @@ TEST_F(PlayTest, PutsTheOwnSlotsAsideAndTheSelectedSavegamesIntoTheSlots) {
   Play({0, 1, 2});
 
   EXPECT_TRUE(boxes.shown.empty()) << boxes.AllTexts();
-  EXPECT_EQ(disk.AllFiles("Program/temp"), own);
+  EXPECT_EQ(SlotsIn("Program/temp"), own);
   EXPECT_EQ(InGame(), (Files{{"savegame.0", archive.at("Archive/Slot1/savegame.5")},
                              {"note0.txt", archive.at("Archive/Slot1/note5.txt")},
                              {"shot0.jpg", "north picture"},
@@ -158,17 +166,17 @@ TEST_F(PlayTest, RefusesASavegameThatLiesInTheGameFolderByAnotherPath) {
 
 TEST_F(PlayTest, ASecondPlayKeepsTheBackupAndSetsAsideWhatTheGameSaved) {
   Play({0, 1});
-  const Files backup = disk.AllFiles("Program/temp");
+  const Files backup = SlotsIn("Program/temp");
   const std::string saved = SavegameBytes("Played", 30);
   disk.Write("Game/savegame.1", saved);
   disk.Write("Game/savegame.7", saved + "7");
   disk.Write("Game/shot7.jpg", "new picture");
   Play({2});
 
-  EXPECT_EQ(disk.AllFiles("Program/temp"), backup);
+  EXPECT_EQ(SlotsIn("Program/temp"), backup);
   EXPECT_EQ(disk.Listed("Game"), "savegame.0|shot0.jpg|tomb4.exe|");
   EXPECT_EQ(
-      disk.AllFiles("Program/rescued/1"),
+      SlotsIn("Program/rescued/1"),
       (Files{{"savegame.1", saved}, {"savegame.7", saved + "7"}, {"shot7.jpg", "new picture"}}));
   EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\rescued\\1\""));
   EXPECT_EQ(boxes.shown.size(), 1U);
@@ -246,14 +254,98 @@ TEST_F(PlayTest, TheNextStartFindsTheBackupOnlyWhenItWasNotRestored) {
   EXPECT_EQ(disk.Read("Game/savegame.0"), disk.Read("Archive/Slot1/savegame.5"));
   boxes.shown.clear();
   Start();
-  EXPECT_EQ(disk.AllFiles("Program/rescued/1"), own);
+  EXPECT_EQ(SlotsIn("Program/rescued/1"), own);
   EXPECT_TRUE(Contains(boxes.AllTexts(), "rescued\\1"));
+}
+
+// A run that is killed during a play.
+TEST_F(PlayTest, TheStartAfterAnEndedRunOffersTheOwnSlots) {
+  for (const BoxAnswer answer : {BoxAnswer::kYes, BoxAnswer::kNo}) {
+    SCOPED_TRACE(answer == BoxAnswer::kYes);
+    PlayWorld world;
+    world.Play();
+    const std::string saved = SavegameBytes("Played", 30);
+    world.disk.Write("Game/savegame.1", saved);
+    world.boxes.shown.clear();
+    world.program.emplace(world.NewProgram());
+    const bool yes = answer == BoxAnswer::kYes;
+    world.boxes.answers = {answer, yes ? BoxAnswer::kYes : BoxAnswer::kNo, BoxAnswer::kNo};
+    StartUp(*world.program);
+    EXPECT_TRUE(Contains(world.boxes.shown[0].text, "\"T:\\Game\"")) << world.boxes.AllTexts();
+    EXPECT_EQ(world.disk.Listed("Program/temp"), "");
+    if (answer == BoxAnswer::kNo) {
+      EXPECT_EQ(world.SlotsIn("Program/rescued/1"), world.own);
+      EXPECT_EQ(world.disk.Read("Game/savegame.1"), saved);
+      continue;
+    }
+    EXPECT_EQ(world.InGame(), world.own);
+    // What the game saved, and nothing that the play had put there, went into the archive.
+    EXPECT_EQ(world.disk.Read("Archive/Slot4/savegame.1"), saved);
+    EXPECT_EQ(world.disk.Names("Archive/Slot4").size(), 1U);
+    EXPECT_TRUE(Contains(world.disk.Read("Archive/info.txt"), "SLOT4"));
+    EXPECT_EQ(world.disk.Listed("Program/rescued"), "");
+    EXPECT_EQ(world.program->catalogue.entries.size(), 6U);
+  }
+}
+
+TEST_F(PlayTest, AnEndedRunIsOfferedOnlyWhatIsWhole) {
+  Play();
+  const std::string label = disk.Read("Program/temp/backup.txt");
+  Restore(BoxAnswer::kYes);
+  boxes.shown.clear();
+  Start();
+  EXPECT_EQ(boxes.shown.size(), 1U) << "beside the import's question: " << boxes.AllTexts();
+  EXPECT_EQ(disk.Listed("Program/temp"), "");
+
+  for (const std::size_t length : {label.size() - 120, std::size_t{20}}) {
+    disk.Write("Program/temp/savegame.3", "own");
+    disk.Write("Program/temp/backup.txt", label.substr(0, length));
+    boxes.shown.clear();
+    Start();
+    EXPECT_TRUE(Contains(boxes.AllTexts(), "They have been moved")) << boxes.AllTexts();
+    EXPECT_EQ(disk.Listed("Program/temp"), "");
+    EXPECT_EQ(InGame(), own);
+  }
+}
+
+// Whatever fails or ends the program while the slots of an ended run come back, nothing is lost.
+TEST(EndedRunTest, AnyCallMayFailOrBeTheLast) {
+  struct World : PlayWorld {
+    World() {
+      Play();
+      disk.Write("Game/savegame.1", SavegameBytes("Played", 30));
+      before = disk.AllFiles();
+      before.erase("Program/temp/backup.txt");
+      files.Reset();
+    }
+    Files before;
+  };
+  const auto start = [](World& world) {
+    world.program.emplace(world.NewProgram());
+    world.boxes.answers.assign(9, BoxAnswer::kYes);
+    StartUp(*world.program);
+  };
+  const auto check = [](World& world) { testing::ExpectNothingLost(world.before, world.disk); };
+  testing::FailEveryCall<World>(FileError::kDiskFull, start, check);
+  testing::DieAtEveryCall<World>(start, check);
+}
+
+TEST_F(PlayTest, ARefusedPlayLeavesNothing) {
+  for (const char* operation : {"Rename", "Delete"}) {
+    for (const auto& [name, bytes] : own) {
+      files.FailAlways(operation, "Game\\" + name, FileError::kAccessDenied);
+    }
+  }
+  Play();
+  EXPECT_EQ(InGame(), own);
+  EXPECT_EQ(disk.Listed("Program/temp"), "");
+  EXPECT_FALSE(program->play.ExaminedInGameFolder);
 }
 
 TEST_F(PlayTest, StopsWhenAnOwnSlotCannotBePutAside) {
   files.FailAlways("Copy", "savegame.16", FileError::kDiskFull);
   Play();
-  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Game\\savegame.16\": the disk is full"));
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\temp\\savegame.16\": the disk is full"));
   EXPECT_EQ(InGame(), own);
   EXPECT_FALSE(program->play.ExaminedInGameFolder);
   EXPECT_EQ(program->catalogue.entries.back().SavegamePath, "t:\\game\\savegame.3");
@@ -271,7 +363,7 @@ TEST_F(PlayTest, StopsWhenAnOwnSlotCannotBePutAside) {
   disk.MakeReadOnly("Game/savegame.3");
   Play();
   EXPECT_TRUE(boxes.shown.empty()) << boxes.AllTexts();
-  EXPECT_EQ(disk.AllFiles("Program/temp"), own);
+  EXPECT_EQ(SlotsIn("Program/temp"), own);
 }
 
 TEST_F(PlayTest, OffersTheRestoreWhenTheSlotsCouldNotBeFilled) {
@@ -345,13 +437,13 @@ TEST_P(TwoGamesTest, APlayInTheOtherBacksItUpAndKeepsTheFirstBackup) {
   Play({0, 1});
   LoadOther();
   Play({2});
-  EXPECT_EQ(disk.AllFiles("Program/temp"), other_own);
+  EXPECT_EQ(SlotsIn("Program/temp"), other_own);
   EXPECT_EQ(disk.Listed("Other"), "savegame.0|shot0.jpg|");
   if (GetParam() == BoxAnswer::kYes) {
     EXPECT_EQ(InGame(), own);
     EXPECT_FALSE(disk.Exists("Program/rescued"));
   } else {
-    EXPECT_EQ(disk.AllFiles("Program/rescued/1"), own);
+    EXPECT_EQ(SlotsIn("Program/rescued/1"), own);
     EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\rescued\\1\""));
   }
   EXPECT_EQ(program->catalogue.entries.back().LevelName, "Other own");

@@ -146,10 +146,8 @@ TEST_F(StartUpTest, SlotsLeftInTheBackupFolderAreSetAside) {
 
 TEST_F(StartUpTest, OfBackedUpSlotsThatCannotBeMovedNothingIsSaidToHaveBeen) {
   disk.Write("Program/temp/savegame.3", "own savegame");
-  files.meanwhile = [this](const std::string& operation) {
-    files.FailAlways(operation == "Delete" ? "Delete" : "Rename", "temp\\savegame.3",
-                     FileError::kInUse);
-  };
+  files.FailAlways("Delete", "temp\\savegame.3", FileError::kInUse);
+  files.FailAlways("Rename", "temp\\savegame.3", FileError::kInUse);
   Started();
   EXPECT_TRUE(disk.Exists("Program/temp/savegame.3"));
   EXPECT_FALSE(disk.Exists("Program/rescued/1/savegame.3"));

@@ -1,5 +1,6 @@
 #include "support/faulty_file_system.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vellumark::testing {
@@ -44,14 +45,13 @@ void FaultyFileSystem::KillAtCall(int call) { kill_at_ = calls_ + call; }
 
 void FaultyFileSystem::FailAlways(const std::string& operation, const std::string& path_ending,
                                   FileError error) {
-  fail_operation_ = operation;
-  fail_ending_ = path_ending;
+  always_.emplace_back(operation, path_ending);
   error_ = error;
 }
 
 void FaultyFileSystem::Reset() {
   calls_ = fail_at_ = kill_at_ = 0;
-  fail_operation_.clear();
+  always_.clear();
 }
 
 std::unique_ptr<FolderReader> FaultyFileSystem::OpenFolder(const std::string& folder) {
@@ -63,8 +63,9 @@ std::unique_ptr<FolderReader> FaultyFileSystem::OpenFolder(const std::string& fo
 FileError FaultyFileSystem::Count(const std::string& operation, const std::string& path) {
   if (++calls_ == kill_at_) throw Killed();
   if (meanwhile) meanwhile(operation);
-  const bool fails =
-      calls_ == fail_at_ || (operation == fail_operation_ && path.ends_with(fail_ending_));
+  const bool fails = calls_ == fail_at_ || std::ranges::any_of(always_, [&](const auto& rule) {
+                       return operation == rule.first && path.ends_with(rule.second);
+                     });
   return fails ? error_ : FileError::kNone;
 }
 

@@ -121,8 +121,7 @@ class FaultyFileSystem final : public FileSystem {
   int fail_at_ = 0;
   int kill_at_ = 0;
   FileError error_ = FileError::kNone;
-  std::string fail_operation_;
-  std::string fail_ending_;
+  std::vector<std::pair<std::string, std::string>> always_;  // operation, end of the path
 };
 
 }  // namespace vellumark::testing
