@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -17,8 +18,10 @@
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/session_end_watch.h"
 #include "platform/system_services.h"
 #include "program.h"
+#include "session/session_end.h"
 #include "session/start_up.h"
 #include "ui/fonts.h"
 #include "ui/principale.h"
@@ -77,6 +80,7 @@ int main(int argc, char* argv[]) {
   }
   const LockResult lock = files->LockFolder(*program_folder);
   if (lock.answer == LockAnswer::kHeldByAnother) {
+    SetIcon(*files, *program_folder);
     boxes.Show(LoadMessage(kAlreadyRunning, {Quoted(*program_folder)}), BoxButtons::kOk,
                BoxIcon::kCritical);
     return 1;
@@ -104,10 +108,17 @@ int main(int argc, char* argv[]) {
   QObject::connect(&window, &Principale::Closed, &application, &QCoreApplication::quit,
                    Qt::QueuedConnection);
 
+  const SessionEndWatch session_end({.save = [&program] { SaveForSessionEnd(program); },
+                                     .end = [&program] { return EndSession(program); }});
+  // The boxes of the start have the icon too, and the window need not wait for it.
+  constexpr auto kIconDelay = std::chrono::milliseconds(100);
+  QTimer icon_delay;
+  icon_delay.setSingleShot(true);
+  QObject::connect(&icon_delay, &QTimer::timeout, &window,
+                   [&] { SetIcon(*files, *program_folder); });
+  icon_delay.start(kIconDelay);
   MainWindowLoaded(program);
   window.show();
-  // The window need not wait for its icon.
-  constexpr int kIconDelay = 100;  // milliseconds
-  QTimer::singleShot(kIconDelay, &window, [&] { SetIcon(*files, *program_folder); });
+  if (icon_delay.isActive()) icon_delay.start(kIconDelay);
   return QApplication::exec();
 }

@@ -8,6 +8,7 @@
 #include "archive/archive_state.h"
 #include "foundation/preferences_state.h"
 #include "foundation/program_paths_state.h"
+#include "foundation/session_state.h"
 #include "game/capture_state.h"
 #include "game/play_state.h"
 #include "maintenance/folder_chooser_state.h"
@@ -41,6 +42,7 @@ struct Program {
   Windows& windows;
   MainWindow& main_window;
 
+  SessionState session{};
   ProgramPaths paths{};
   std::string argument_text{};  // the command line's arguments as one text
   Preferences preferences{};

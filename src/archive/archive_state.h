@@ -3,6 +3,7 @@
 #define VELLUMARK_ARCHIVE_ARCHIVE_STATE_H_
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -20,6 +21,8 @@ struct ArchiveSettings {
   bool operator==(const ArchiveSettings&) const = default;
 };
 
+struct ArchiveBefore;
+
 // The settings in use and what is known about their file, Preferences::LastArchive.
 struct ArchiveState {
   ArchiveSettings settings;
@@ -32,6 +35,14 @@ struct ArchiveState {
   bool never_written = false;
 
   bool ArchivePropertiesOk = false;  // the last answer of the archive properties dialog
+
+  // Set while the dialog for a new archive is open: what was in use before.
+  std::shared_ptr<const ArchiveBefore> before_new{};
+};
+
+struct ArchiveBefore {
+  ArchiveState archive;
+  std::string path;  // LastArchive
 };
 
 }  // namespace vellumark

@@ -44,6 +44,8 @@ constexpr TableMessage kOwnMessages[] = {
     {kWhyInTheWay, "had the name of a savegame that was copied"},
     {kWhyNotInNewArchive, "in the old archive when it was deleted, and not in the new one"},
     {kWhyNotLinked, "typed for a captured screen-shot that was not linked"},
+    {kUntoldFile, "\\untold.txt"},
+    {kUntold, "This could not be told when the system ended Vellumark:"},
 
     {kPreferencesNotReadWhole,
      "Warning: the preferences file ~1 could not be read whole: ~2.\r\nWhat is missing takes its "
@@ -264,6 +266,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kReasonInUse, "another program is using it"},
     {kReasonInputOutput, "it could not be read or written"},
     {kReasonFolder, "it is a folder"},
+    {kReasonStopped, "the session ended before its turn"},
 };
 
 }  // namespace

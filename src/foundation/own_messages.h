@@ -33,6 +33,8 @@ enum OwnMessage : int {
   kWhyInTheWay,
   kWhyNotInNewArchive,
   kWhyNotLinked,
+  kUntoldFile,  // path tail
+  kUntold,      // followed by what was not told
 
   // Settings files
   kPreferencesNotReadWhole,  // ~1 file, ~2 reason
@@ -173,6 +175,7 @@ enum OwnMessage : int {
   kReasonInUse,
   kReasonInputOutput,
   kReasonFolder,
+  kReasonStopped,
 };
 
 }  // namespace vellumark

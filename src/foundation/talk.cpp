@@ -6,8 +6,25 @@
 namespace vellumark {
 namespace {
 
+// Nobody is there to read it: a notice is kept for the next start, a question is not asked.
+BoxAnswer NotShown(Program& program, const std::string& text, BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::kOk:
+      program.session.untold += text + kLineBreak + kLineBreak;
+      return BoxAnswer::kOk;
+    case BoxButtons::kOkCancel:
+      return BoxAnswer::kCancel;
+    case BoxButtons::kYesNoToKeep:
+      return BoxAnswer::kYes;
+    case BoxButtons::kYesNo:
+      break;
+  }
+  return BoxAnswer::kNo;
+}
+
 // While the user is asked, nothing works: the timer may act.
 BoxAnswer Show(Program& program, const std::string& text, BoxButtons buttons, BoxIcon icon) {
+  if (IsEnding(program)) return NotShown(program, text, buttons);
   const bool was_working = SetWorking(program, false);
   const BoxAnswer answer = program.boxes.Show(text, buttons, icon);
   SetWorking(program, was_working);

@@ -1,4 +1,4 @@
-// Message boxes as the core uses them.
+// Message boxes as the core uses them. None is shown once the session ends (IsEnding).
 #ifndef VELLUMARK_FOUNDATION_TALK_H_
 #define VELLUMARK_FOUNDATION_TALK_H_
 

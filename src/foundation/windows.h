@@ -32,6 +32,9 @@ class Windows {
   // Lets the windows paint themselves while an operation works; no input gets through. Cheap enough
   // to be called for every savegame.
   virtual void LetPaint() = 0;
+
+  // True once the system has asked the program to end, also while an operation works.
+  virtual bool SessionEnds() = 0;
 };
 
 }  // namespace vellumark

@@ -13,4 +13,10 @@ bool SetWorking(Program& program, bool working) {
   return was;
 }
 
+bool IsEnding(Program& program) {
+  SessionState& session = program.session;
+  session.ending = session.ending || program.windows.SessionEnds();
+  return session.ending;
+}
+
 }  // namespace vellumark

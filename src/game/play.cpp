@@ -172,7 +172,7 @@ void PlaySelectedSavegames(Program& program) {
   report.Show(program);
   // The list shows the backup's slots as the game folder's: those of another folder by now.
   if (another_folder) ScanArchive(program);
-  if (!filled) {
+  if (!filled || IsEnding(program)) {
     if (safe) RestoreOriginalSavegames(program);
     return;
   }

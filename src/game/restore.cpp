@@ -61,7 +61,7 @@ Report PutBack(Program& program, const std::string& folder, Rescue& rescue) {
 // the archive in the same box.
 void TellAndOffer(Program& program, const Report& report, const std::string& rescue_folder,
                   const std::string& otherwise) {
-  if (!rescue_folder.empty() && CanArchiveRescued(program)) {
+  if (!rescue_folder.empty() && CanArchiveRescued(program) && !IsEnding(program)) {
     const std::string question =
         report.text() + kLineBreak + kLineBreak + LoadMessage(kArchiveThemNow);
     if (AskYesNo(program, question, BoxIcon::kExclamation)) {

@@ -70,7 +70,8 @@ class Export {
     }
     for (const SavegameEntry* entry : entries_) {
       program_.windows.LetPaint();
-      const FileError why = Copy(entry->ShotPath, NameFor(StemOf(*entry)));
+      const FileError why =
+          IsEnding(program_) ? FileError::kStopped : Copy(entry->ShotPath, NameFor(StemOf(*entry)));
       if (why != FileError::kNone) failures_.push_back({entry->ShotPath, why});
     }
   }

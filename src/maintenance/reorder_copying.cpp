@@ -5,6 +5,7 @@
 
 #include "foundation/messages.h"
 #include "foundation/paths.h"
+#include "foundation/working.h"
 #include "maintenance/reorder_order.h"
 #include "maintenance/reorder_plan.h"
 #include "program.h"
@@ -52,6 +53,10 @@ class Copying {
     const auto count = static_cast<int>(order.size());
     for (int position = 0; position < count && !made_.stopped; ++position) {
       show(CopyingPercent(position, count, settings_.DeleteOldArchive));
+      if (IsEnding(program_)) {
+        made_.stopped = {target_.Subfolder(plan_.folders() + 1), FileError::kStopped};
+        break;
+      }
       Place(order[static_cast<std::size_t>(position)]);
     }
     if (!made_.stopped) FinishFolder();

@@ -34,6 +34,13 @@ void BringToFront(WindowHandle own_window);
 // windows' library gets none. Empty where there is none.
 std::string ClipboardAsBmpFile();
 
+// Where the system asks a program to end by signals: from now on they do not end it by themselves.
+// Answers a descriptor that becomes readable with the first one; -1 where there is none.
+int CatchEndSignals();
+
+// True from that first signal on, at any moment.
+bool HasEndSignal();
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_PLATFORM_DESKTOP_SERVICES_H_

@@ -32,6 +32,7 @@ enum class FileError {
   kNotEmpty,       // a folder to be removed still holds something
   kNotAFolder,     // a file stands where a folder should
   kInUse,          // another program holds the file
+  kStopped,        // the session ends: the operation did not come to it
   kInputOutput,    // the device failed, or anything else
 };
 

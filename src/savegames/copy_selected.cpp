@@ -13,6 +13,7 @@
 #include "foundation/paths.h"
 #include "foundation/rescue.h"
 #include "foundation/windows.h"
+#include "foundation/working.h"
 #include "platform/text.h"
 #include "program.h"
 #include "savegames/file_removal.h"
@@ -53,7 +54,8 @@ class Copier {
       program_.windows.LetPaint();
       int slot = renumber ? position : savegame.slot;
       ++position;
-      const FileError no_number = probe ? FindFreeNumber(slot) : FileError::kNone;
+      FileError no_number = probe ? FindFreeNumber(slot) : FileError::kNone;
+      if (IsEnding(program_)) no_number = FileError::kStopped;
       if (no_number != FileError::kNone) {
         copies_.not_copied.push_back({savegame.savegame, no_number});
         continue;
@@ -177,7 +179,7 @@ class Copier {
     const FileError flush = written.empty() ? FileError::kNone : files_.Flush(written);
     for (const CopiedSavegame& savegame : savegames) {
       program_.windows.LetPaint();
-      DeleteSource(savegame, flush);
+      DeleteSource(savegame, IsEnding(program_) ? FileError::kStopped : flush);
     }
   }
 

@@ -1,6 +1,7 @@
 #include "session/archive_commands.h"
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -15,6 +16,7 @@
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "foundation/working.h"
 #include "game/import.h"
 #include "game/restore.h"
 #include "platform/file_dialogs.h"
@@ -28,6 +30,10 @@ constexpr std::int16_t kNewArchiveMaxSavegame = 15;
 
 bool HasNoNameOfItsOwn(const std::string& path) {
   return EqualsIgnoringAsciiCase(FileNameOf(path), LoadMessage(281));
+}
+
+std::string NoNamePath(const Program& program) {
+  return program.paths.ProgramFolder + LoadMessage(270);
 }
 
 std::string NotWritten(const std::string& path, FileError error) {
@@ -130,35 +136,42 @@ void SaveArchiveIfChanged(Program& program) {
   last = Trimmed(last);
 
   if (last.empty() && HoldsNothing(program.archive.settings)) return;
-  if (last.empty() || HasNoNameOfItsOwn(last)) {
+  const bool ending = IsEnding(program);
+  if (!ending && (last.empty() || HasNoNameOfItsOwn(last))) {
     SaveArchiveAs(program);
     return;
   }
   if (IsUnchangedDamage(program.archive)) return;
-  const FileError error = WriteArchiveFile(program, last);
+  const std::string path = last.empty() ? NoNamePath(program) : last;
+  const FileError error = WriteArchiveFile(program, path);
+  if (error != FileError::kNone && ending) {
+    return Tell(program, NotWritten(path, error), BoxIcon::kCritical);
+  }
   if (error != FileError::kNone && AskForAnotherName(program, last, error)) SaveArchiveAs(program);
+}
+
+void UndoNewArchive(Program& program) {
+  const auto before = program.archive.before_new;
+  if (before == nullptr) return;
+  program.archive = before->archive;
+  program.preferences.LastArchive = before->path;
 }
 
 void NewArchive(Program& program) {
   SaveArchiveIfChanged(program);
-  const ArchiveState kept_archive = program.archive;
-  const std::string kept_path = Trimmed(program.preferences.LastArchive);
+  program.archive.before_new = std::make_shared<const ArchiveBefore>(
+      ArchiveBefore{program.archive, Trimmed(program.preferences.LastArchive)});
 
   program.archive.settings = {};
   program.archive.settings.MaxSavegame = kNewArchiveMaxSavegame;
   program.archive.settings.SubfolderBaseName = LoadMessage(269);
   program.archive.read_in_part.reset();
   program.archive.never_written = true;
-  program.preferences.LastArchive = program.paths.ProgramFolder + LoadMessage(270);
+  program.preferences.LastArchive = NoNamePath(program);
 
   program.windows.ShowModal(WindowId::kDialogSetNewArc);
-  if (!program.archive.ArchivePropertiesOk) {
-    program.archive.settings = kept_archive.settings;
-    program.archive.read_in_part = kept_archive.read_in_part;
-    program.archive.never_written = kept_archive.never_written;
-    program.preferences.LastArchive = kept_path;
-    return;
-  }
+  if (!program.archive.ArchivePropertiesOk) return UndoNewArchive(program);
+  program.archive.before_new.reset();
   program.archive.ArchiveChanged = true;
   ScanArchive(program);
   if (program.catalogue.EntryCount() == 0) ImportCommand(program);
@@ -178,10 +191,11 @@ void LoadArchive(Program& program) {
   const auto settings = ReadChosenArchive(program, path);
   if (!settings) return;
 
-  program.preferences.LastArchive = path;
   if (!SamePath(program.text, settings->GameFolder, program.archive.settings.GameFolder)) {
     RestoreOriginalSavegames(program);
   }
+  // Only now: while the question waits, path and settings are those of one archive.
+  program.preferences.LastArchive = path;
   program.archive.settings = *settings;
   program.archive.read_in_part.reset();
   program.archive.never_written = false;

@@ -16,8 +16,13 @@ void SaveArchive(Program& program);
 void SaveArchiveAs(Program& program);
 
 // Saves when the archive has changed. An archive that was never saved under a name of its own
-// brings up the question for one.
+// brings up the question for one; once the session ends it is saved
+// beside the program instead.
 void SaveArchiveIfChanged(Program& program);
+
+// Makes the archive that was in use before a NewArchive whose dialog is still open the current one
+// again; nothing without one.
+void UndoNewArchive(Program& program);
 
 // Makes a new archive with the archive properties dialog.
 void NewArchive(Program& program);

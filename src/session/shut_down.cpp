@@ -5,11 +5,13 @@
 #include "foundation/sound_effects.h"
 #include "foundation/talk.h"
 #include "foundation/windows.h"
+#include "foundation/working.h"
 #include "game/capture_rescue.h"
 #include "game/own_slots.h"
 #include "game/restore.h"
 #include "program.h"
 #include "session/archive_commands.h"
+#include "session/session_end.h"
 
 namespace vellumark {
 
@@ -21,6 +23,8 @@ void MainWindowClosing(Program& program) {
         WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc}) {
     program.windows.CloseDialog(dialog);
   }
+  if (IsEnding(program)) EndSession(program);
+  program.session.ended = true;
 }
 
 void ShutDown(Program& program) {

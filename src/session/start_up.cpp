@@ -17,6 +17,7 @@
 #include "game/restore.h"
 #include "platform/text.h"
 #include "program.h"
+#include "session/session_end.h"
 
 namespace vellumark {
 namespace {
@@ -138,6 +139,8 @@ void StartUp(Program& program) {
   ReadLastArchive(program);
   OfferBackupOfEndedRun(program);
   program.archive.ArchiveChanged = false;
+  program.session.settings_read = true;
+  TellWhatWasUntold(program);
 
   if (program.preferences.LastArchive.empty()) return;
   ScanArchive(program);

@@ -20,6 +20,7 @@
 #include "foundation/own_messages.h"
 #include "game/capture.h"
 #include "game/game_start.h"
+#include "platform/desktop_services.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
@@ -355,6 +356,8 @@ void Principale::LetPaint() {
                                   QEventLoop::ExcludeSocketNotifiers);
   painted_.start();
 }
+
+bool Principale::SessionEnds() { return HasEndSignal(); }
 
 // A dialog that has closed may take a moment until it is gone.
 bool Principale::IsOpen(WindowId dialog) {

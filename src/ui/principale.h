@@ -54,6 +54,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void CloseDialog(WindowId window) override;
   void ShowBusy(bool busy) override;
   void LetPaint() override;
+  bool SessionEnds() override;
 
  signals:
   // The window has closed and shut-down is done.

@@ -15,6 +15,7 @@
 #include "savegames/details.h"
 #include "savegames/savegame_properties.h"
 #include "session/archive_commands.h"
+#include "session/session_end.h"
 #include "session/shut_down.h"
 #include "session/start_up.h"
 #include "support/every_call.h"
@@ -387,6 +388,16 @@ TEST_F(PlayTest, ABackupThatIsNotWholeIsNotRestoredUnlessTheUserDeletedOfIt) {
   Restore(BoxAnswer::kYes);
   EXPECT_EQ(disk.Read("Game/savegame.3"), SavegameBytes("Own", 21, 3));
   EXPECT_FALSE(disk.Exists("Game/note3.txt"));
+}
+
+TEST_F(PlayTest, WhenTheSessionEndsHalfwayTheOwnSlotsAreInTheBackup) {
+  windows.ends_after_painting = 2;
+  Play();
+  EXPECT_EQ(disk.Listed("Game"), "note0.txt|savegame.0|shot0.jpg|tomb4.exe|");
+  EXPECT_TRUE(shell.opened.empty());
+  EXPECT_TRUE(EndSession(*program));
+  EXPECT_EQ(boxes.AllTexts(), "");
+  EXPECT_EQ(SlotsIn("Program/temp"), own);
 }
 
 TEST_F(PlayTest, NothingIsPutOverASavegameThatCouldNotBeSetAside) {

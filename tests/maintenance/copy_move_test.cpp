@@ -71,6 +71,16 @@ TEST_F(CopyMoveTest, ThePointerIsBusyWhileFilesAreCopiedAndNeverWhileTheUserIsAs
   EXPECT_FALSE(windows.looks_busy);
 }
 
+TEST_F(CopyMoveTest, StopsBetweenTwoFilesWhenTheSessionEndsAndDeletesNothingThatIsNotSafe) {
+  windows.ends_after_painting = 2;
+  const Files before = disk.AllFiles("Archive");
+  RunCommand(MoveSelection, {0, 1}, "T:\\Target", {kNo});
+  EXPECT_EQ(disk.AllFiles("Archive"), before);
+  EXPECT_EQ(disk.Listed("Target"), "savegame.0|");
+  EXPECT_EQ(boxes.shown.size(), 1U) << "the question before";
+  EXPECT_TRUE(Contains(program.session.untold, "slot1\\savegame.3\": the session ended"));
+}
+
 TEST_F(CopyMoveTest, WithoutASelectionNothingOpens) {
   RunCommand(CopySelection, {}, "T:\\Target", {});
   EXPECT_EQ(TakeRefusal(), "There are no savegames to copy");

@@ -105,6 +105,17 @@ class ReorderTest : public ::testing::Test, public testing::OpenWorld {
   std::vector<int> shown;
 };
 
+TEST_F(ReorderTest, StopsWhenTheSessionEndsAndKeepsTheOldArchiveInUse) {
+  settings.DeleteOldArchive = true;
+  const Files before = disk.AllFiles("Archive");
+  EXPECT_FALSE(ReorderArchive(program, settings, [this](int percent) {
+    if (percent > 20) windows.ends_after_painting = 0;
+  }));
+  EXPECT_EQ(disk.AllFiles("Archive"), before);
+  EXPECT_EQ(program.archive.settings.MainFolder, "T:\\Archive");
+  EXPECT_EQ(boxes.AllTexts(), "");
+}
+
 TEST_F(ReorderTest, CopiesSortedByCounterAndMakesTheNewArchiveTheCurrentOne) {
   const Files before = disk.AllFiles();
   files.SetCurrentFolder("T:\\New");

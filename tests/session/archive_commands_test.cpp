@@ -4,6 +4,8 @@
 
 #include "archive/archive_file.h"
 #include "archive/validation.h"
+#include "foundation/preferences_file.h"
+#include "session/session_end.h"
 #include "support/open_world.h"
 
 namespace vellumark {
@@ -186,6 +188,37 @@ TEST_F(ArchiveCommandsTest, NewCancelledPutsTheArchiveBack) {
   EXPECT_EQ(program.archive.settings.SubfolderBaseName, before.SubfolderBaseName);
   EXPECT_EQ(program.preferences.LastArchive, "T:\\Archive.vmk");
   EXPECT_EQ(program.catalogue.EntryCount(), 3);
+}
+
+TEST_F(ArchiveCommandsTest, WhenTheSessionEndsTheArchiveInUseIsSavedWhateverIsOpen) {
+  program.session.settings_read = true;
+  const auto stored = [this](const std::string& file) {
+    Preferences preferences;
+    DecodePreferences(disk.Read("Program/manager.prf"), preferences);
+    EXPECT_EQ(preferences.LastArchive, "T:\\" + file);
+    return DecodeArchive(disk.Read(file)).MainFolder;
+  };
+  program.paths.PreferencesPath = "T:\\Program\\manager.prf";
+  windows.in_dialog = [this](WindowId) { SaveForSessionEnd(program); };
+  NewArchive(program);
+  EXPECT_EQ(stored("Archive.vmk"), "T:\\Archive");
+
+  disk.Write("Other.vmk", EncodeArchive({"Other", "T:\\Other", "T:\\Elsewhere", "", 9, 0}));
+  program.play.ExaminedInGameFolder = program.play.backup_whole = true;
+  program.archive.ArchiveChanged = true;
+  boxes.while_waiting = [this] { SaveForSessionEnd(program); };
+  boxes.answers = {BoxAnswer::kNo};
+  dialogs.answers = {"T:\\Archive.vmk", "T:\\Other.vmk"};
+  LoadArchive(program);
+  EXPECT_EQ(stored("Archive.vmk"), "T:\\Archive");
+  EXPECT_EQ(DecodeArchive(disk.Read("Other.vmk")).MainFolder, "T:\\Other");
+
+  disk.Write("Program/NoName.vmk", "another's");
+  program.preferences.LastArchive.clear();
+  program.archive.ArchiveChanged = true;
+  EndSession(program);
+  EXPECT_EQ(DecodeArchive(disk.Read("Program/NoName.vmk")).MainFolder, "T:\\Archive");
+  EXPECT_EQ(disk.Read("Program/NoName.vmk.bak"), "another's");
 }
 
 TEST_F(ArchiveCommandsTest, ValidationNamesTheFirstMissingSetting) {

@@ -7,6 +7,7 @@
 
 #include "archive/archive_file.h"
 #include "foundation/preferences_file.h"
+#include "session/session_end.h"
 #include "session/shut_down.h"
 #include "support/every_call.h"
 #include "support/expectations.h"
@@ -264,6 +265,41 @@ TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
                         WindowId::kDialogCattura, WindowId::kDialogCerca, WindowId::kDialogGetDir,
                         WindowId::kDialogNote, WindowId::kDialogPref, WindowId::kDialogRiordina,
                         WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc}));
+}
+
+TEST_F(ShutDownTest, WhenTheSessionEndsNothingIsAskedAndTheNextStartTells) {
+  Program program = Started();
+  program.preferences.SoundEffects = true;
+  program.capture.ShotLinkedNotImported = true;
+  program.capture.CaptureDialogOpen = true;
+  program.capture.typed_note = "typed";
+  program.play.ExaminedInGameFolder = program.play.backup_whole = true;
+  disk.MakeReadOnly("Archive.vmk");
+  boxes.shown.clear();
+  SaveForSessionEnd(program);
+  EXPECT_FALSE(program.session.ending) << "the session may go on";
+  EXPECT_TRUE(EndSession(program));
+  EXPECT_FALSE(EndSession(program));
+  EXPECT_EQ(boxes.AllTexts(), "");
+  EXPECT_TRUE(StoredPreferences().SoundEffects);
+  EXPECT_EQ(disk.Read("Program/rescued/1/note.txt"), "typed\r\n");
+
+  Started();
+  for (const char* told : {"Archive.vmk\": it is read-only", "rescued\\1\"", "not yet imported"}) {
+    EXPECT_TRUE(Contains(boxes.AllTexts(), told));
+  }
+  boxes.shown.clear();
+  Started();
+  EXPECT_EQ(boxes.AllTexts(), "") << "told once";
+}
+
+TEST_F(ShutDownTest, ASessionThatEndsDuringTheStartCostsNoSetting) {
+  const auto before = disk.AllFiles("Program");
+  disk.Remove({"Program/default_shot.jpg"});
+  Program program = NewProgram();
+  boxes.while_waiting = [&program] { EXPECT_TRUE(EndSession(program)); };
+  StartUp(program);
+  EXPECT_EQ(disk.Read("Program/manager.prf"), before.at("manager.prf"));
 }
 
 TEST_F(ShutDownTest, FilesThatCannotBeWrittenAreToldAndStay) {

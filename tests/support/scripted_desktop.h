@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <functional>
+#include <limits>
 #include <map>
 #include <optional>
 #include <string>
@@ -160,6 +161,7 @@ class ScriptedWindows final : public MainWindow, public Windows {
   void CloseDialog(WindowId window) override { events.push_back({"close", window}); }
   void ShowBusy(bool busy) override { looks_busy = busy; }
   void LetPaint() override { painted_busy += looks_busy ? 1 : 0; }
+  bool SessionEnds() override { return painted_busy >= ends_after_painting; }
 
   std::vector<std::string> lines;
   std::vector<int> selected;
@@ -168,7 +170,8 @@ class ScriptedWindows final : public MainWindow, public Windows {
   std::string viewer;
   std::vector<std::pair<std::string, WindowId>> events;
   bool looks_busy = false;
-  int painted_busy = 0;                     // how often an operation has let the windows paint
+  int painted_busy = 0;  // how often an operation has let the windows paint
+  int ends_after_painting = std::numeric_limits<int>::max();  // when the system ends the session
   std::function<void(WindowId)> in_dialog;  // what the user does in a modal dialog
 };
 

@@ -45,4 +45,9 @@ void BringToFront(WindowHandle own_window) { ForceToForeground(own_window); }
 // Wine has bitmaps that it does not hand out in the way the windows' library asks for them.
 std::string ClipboardAsBmpFile() { return BmpFileOf(ReadClipboardBitmap()); }
 
+// The end of a session reaches the windows as messages, and a program without a console gets no
+// other notice.
+int CatchEndSignals() { return -1; }
+bool HasEndSignal() { return false; }
+
 }  // namespace vellumark
