@@ -1,5 +1,7 @@
 #include "foundation/caption_map.h"
 
+#include "foundation/own_messages.h"
+
 namespace vellumark {
 namespace {
 
@@ -92,6 +94,16 @@ constexpr Caption kDialogScreenShot[] = {
     {"", 224, 0},
 };
 
+constexpr Caption kDialogRescued[] = {
+    {"", kRescuedTitle, 0},
+    {"Label1", kRescuedHead, 0},
+    {"Pul_ToArchive", kRescuedToArchive, 0},
+    {"Pul_ToGame", kRescuedToGame, 0},
+    {"Pul_ShowFolder", kRescuedShowFolder, 0},
+    {"Pul_Delete", kRescuedDelete, 0},
+    {"Pul_Close", kRescuedClose, 0},
+};
+
 constexpr Caption kPrincipale[] = {
     {"", 225, 0},
     {"Pul_StartTomb", 226, 227},
@@ -119,6 +131,7 @@ constexpr Caption kPrincipale[] = {
     {"mnu_Tools", 250, 0},
     {"mnu_Reorder", 251, 0},
     {"mnu_Scansione", 252, 0},
+    {"mnu_Rescued", kRescuedCommand, 0},
     {"mnu_Preference", 253, 0},
     {"mnu_PrefArchive", 254, 0},
     {"mnu_PrefManager", 255, 0},
@@ -146,6 +159,8 @@ const char* NameOf(WindowId window) {
       return "Dialog_SetNewArc";
     case WindowId::kDialogScreenShot:
       return "Dialog_ScreenShot";
+    case WindowId::kDialogRescued:
+      return "Dialog_Rescued";
     case WindowId::kPrincipale:
       break;
   }
@@ -170,6 +185,8 @@ std::span<const Caption> CaptionsOf(WindowId window) {
       return kDialogSetNewArc;
     case WindowId::kDialogScreenShot:
       return kDialogScreenShot;
+    case WindowId::kDialogRescued:
+      return kDialogRescued;
     case WindowId::kPrincipale:
       return kPrincipale;
   }

@@ -16,6 +16,7 @@ enum class WindowId {
   kDialogRiordina,
   kDialogSetNewArc,
   kDialogScreenShot,
+  kDialogRescued,
   kPrincipale,
 };
 

@@ -16,15 +16,17 @@ enum OwnMessage : int {
   kRescueListName,         // file name
   kRescueListHead,         // first line of that file
 
-  kBackupLabelName,     // file name
-  kBackupLabelHead,     // first line of that file
-  kPutSlotsBack,        // ~1 game folder, ~2 line break; question
-  kSlotsPutBack,        // ~1 game folder
-  kArchiveThemNow,      // question
-  kRescuedArchived,     // ~1 number
-  kRescuedNotArchived,  // followed by failure lines
-  kRescuedInGame,       // ~1 number, ~2 game folder
-  kSlotsNotFree,        // followed by failure lines
+  kBackupLabelName,      // file name
+  kBackupLabelHead,      // first line of that file
+  kPutSlotsBack,         // ~1 game folder, ~2 line break; question
+  kSlotsPutBack,         // ~1 game folder
+  kArchiveThemNow,       // question
+  kRescuedArchived,      // ~1 number
+  kRescuedNotArchived,   // followed by failure lines
+  kRescuedInGame,        // ~1 number, ~2 game folder
+  kSlotsNotFree,         // followed by failure lines
+  kNoArchiveForRescued,  // no values
+  kDeleteRescued,        // ~1 number of files; question
 
   // Why something was set aside, in that file
   kWhyLeftInBackup,
@@ -145,6 +147,22 @@ enum OwnMessage : int {
   kNothingOpens,  // ~1 file
   kFailureLine,   // ~1 reason, ~2 path
   kMoreFailures,  // ~1 number
+
+  // The dialog of what was set aside
+  kRescuedCommand,
+  kRescuedTitle,
+  kRescuedHead,
+  kNothingRescued,
+  kRescuedToArchive,
+  kRescuedToGame,
+  kRescuedShowFolder,
+  kRescuedDelete,
+  kRescuedClose,
+  kRescuedSavegame,  // column
+  kRescuedNote,      // column
+  kRescuedOrigin,    // column
+  kRescuedWhy,       // column
+  kRescuedNotRead,   // followed by failure lines
 
   // Names of the controls that have no caption, for assistive technology and as tool tips
   kNameList,

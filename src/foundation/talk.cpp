@@ -17,6 +17,7 @@ BoxAnswer NotShown(Program& program, const std::string& text, BoxButtons buttons
     case BoxButtons::kYesNoToKeep:
       return BoxAnswer::kYes;
     case BoxButtons::kYesNo:
+    case BoxButtons::kYesNoFromNo:
       break;
   }
   return BoxAnswer::kNo;
@@ -39,6 +40,7 @@ void Tell(Program& program, const std::string& text, BoxIcon icon) {
 
 void TellNames(Program& program, const std::string& text, const std::vector<std::string>& lines,
                BoxIcon icon) {
+  if (IsEnding(program)) return static_cast<void>(NotShown(program, text, BoxButtons::kOk));
   const bool was_working = SetWorking(program, false);
   program.boxes.ShowNames(text, lines, icon);
   SetWorking(program, was_working);
@@ -46,6 +48,10 @@ void TellNames(Program& program, const std::string& text, const std::vector<std:
 
 bool AskYesNo(Program& program, const std::string& text, BoxIcon icon) {
   return Show(program, text, BoxButtons::kYesNo, icon) == BoxAnswer::kYes;
+}
+
+bool AskFromNo(Program& program, const std::string& text, BoxIcon icon) {
+  return Show(program, text, BoxButtons::kYesNoFromNo, icon) == BoxAnswer::kYes;
 }
 
 bool AskToKeep(Program& program, const std::string& text) {

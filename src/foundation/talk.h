@@ -25,7 +25,10 @@ void TellNames(Program& program, const std::string& text, const std::vector<std:
 // Asks with Yes and No, Yes being the default. True for Yes.
 bool AskYesNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
 
-// The same for a question whose No deletes: true unless the user has pressed No.
+// Asks with Yes and No, No being the default and the answer of closing the box. True for Yes.
+bool AskFromNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
+
+// The same as AskYesNo for a question whose No deletes: true unless the user has pressed No.
 bool AskToKeep(Program& program, const std::string& text);
 
 // Asks with OK and Cancel, OK being the default. True for OK.

@@ -47,6 +47,7 @@ RescuedSavegame ReadSavegame(Program& program, FolderReader& reader, const Slot&
   entry.LevelName = header.level_name;
   entry.InternalCounter = header.counter;
   entry.SlotNumber = static_cast<std::int16_t>(slot.number);
+  entry.FolderNumber = 1;
   entry.SavegamePath = InFolder(folder, slot.savegame->name);
   entry.NotePath = InFolder(folder, NoteFileName(slot.number));
   entry.ShotPath = InFolder(folder, ShotFileName(slot.number));
@@ -193,6 +194,10 @@ bool CanArchiveRescued(Program& program) {
 }
 
 void ArchiveRescued(Program& program, const std::vector<RescuedSavegame>& savegames) {
+  if (!CanArchiveRescued(program)) {
+    PlaySoundEffect(program, SoundEffect::kRefusal);
+    return Tell(program, LoadMessage(kNoArchiveForRescued), BoxIcon::kExclamation);
+  }
   Report report;
   int archived = 0;
   {
@@ -276,7 +281,9 @@ void PutRescuedIntoGame(Program& program, const std::vector<RescuedSavegame>& sa
   report.Show(program);
 }
 
-void DeleteRescuedFiles(Program& program, const std::vector<std::string>& paths) {
+bool DeleteRescuedFiles(Program& program, const std::vector<std::string>& paths) {
+  const auto count = static_cast<int>(paths.size());
+  if (!AskFromNo(program, LoadMessage(kDeleteRescued, {count}))) return false;
   std::vector<Failure> failures;
   {
     const WorkScope working(program);
@@ -286,8 +293,16 @@ void DeleteRescuedFiles(Program& program, const std::vector<std::string>& paths)
     }
     RemoveEmptied(program, paths);
   }
-  if (failures.empty()) return;
-  Tell(program, LoadMessage(kNotAllRemoved) + DescribeFailures(failures), BoxIcon::kExclamation);
+  if (!failures.empty()) {
+    Tell(program, LoadMessage(kNotAllRemoved) + DescribeFailures(failures), BoxIcon::kExclamation);
+  }
+  return true;
+}
+
+void ShowRescuedFolder(Program& program, const std::string& path) {
+  const std::string folder = FolderOf(path);
+  if (OpenWithShell(program.files, program.text, program.shell, folder, "", false, "")) return;
+  Tell(program, LoadMessage(kNothingOpens, {Quoted(folder)}), BoxIcon::kExclamation);
 }
 
 std::vector<std::string> FilesOf(const RescuedSavegame& savegame) {

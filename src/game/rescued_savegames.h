@@ -15,7 +15,7 @@ struct Program;
 
 // A savegame that was set aside.
 struct RescuedSavegame {
-  SavegameEntry entry;  // as the scan would list it, with folder number 0
+  SavegameEntry entry;  // as the scan would list it, with the folder number 1
   bool has_note = false;
   bool has_shot = false;
   std::string origin;  // the path where it lay; empty where nobody has written it down
@@ -39,7 +39,8 @@ bool CanArchiveRescued(Program& program);
 // Puts savegames into the archive as its next sub-folder, as an import does: copied, verified,
 // flushed, then deleted where they were, and written into the info file. Slot numbers that do not
 // fit side by side become 0, 1, 2, ...; more than the slots of one sub-folder fill several. Tells
-// how many there are now in the archive, and what failed; what did not arrive stays set aside.
+// how many there are now in the archive, and what failed; what did not arrive stays set aside. The
+// list of the archive is not read again.
 void ArchiveRescued(Program& program, const std::vector<RescuedSavegame>& savegames);
 
 // The same for all savegames of one folder.
@@ -49,8 +50,12 @@ void ArchiveWholeRescue(Program& program, const std::string& folder);
 // and belongs to the player at the moment; tells what was not.
 void PutRescuedIntoGame(Program& program, const std::vector<RescuedSavegame>& savegames);
 
-// Deletes files that were set aside, read-only ones too; tells what is still there.
-void DeleteRescuedFiles(Program& program, const std::vector<std::string>& paths);
+// Deletes files that were set aside, read-only ones too, after a question; tells what is still
+// there. False when the user does not want to.
+bool DeleteRescuedFiles(Program& program, const std::vector<std::string>& paths);
+
+// Opens the folder of a file that was set aside in the user's file manager.
+void ShowRescuedFolder(Program& program, const std::string& path);
 
 // The files of a savegame that are there.
 std::vector<std::string> FilesOf(const RescuedSavegame& savegame);

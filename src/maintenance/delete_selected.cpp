@@ -40,7 +40,7 @@ void DeleteSelectedSavegames(Program& program) {
     Tell(program, LoadMessage(260), BoxIcon::kCritical);
     return;
   }
-  if (!AskYesNo(program, LoadMessage(261, {count}))) return;
+  if (!AskFromNo(program, LoadMessage(261, {count}))) return;
 
   const std::vector<Failure> not_removed = Remove(program, std::move(savegames));
   PlaySoundEffect(program, SoundEffect::kFinished);

@@ -11,6 +11,7 @@ enum class BoxButtons {
   kOk,
   kOkCancel,
   kYesNo,
+  kYesNoFromNo,  // Yes and No, No being the default
   kYesNoToKeep,  // Yes and No, where No gives up something that Yes keeps
 };
 enum class BoxIcon { kNone, kCritical, kExclamation };
@@ -22,8 +23,8 @@ class MessageBoxes {
 
   // Shows `text` (code page; carriage return, line feed or both break the line) over the window
   // that is modal at that moment and waits for the answer; the program's name is the title and
-  // the first button the default. The program's timer and events run meanwhile. Closing the box or
-  // Escape answers kOk, kCancel, kNo or, of kYesNoToKeep, kYes.
+  // the first button the default, unless `buttons` says otherwise. The program's timer and events
+  // run meanwhile. Closing the box or Escape answers kOk, kCancel, kNo or, of kYesNoToKeep, kYes.
   virtual BoxAnswer Show(const std::string& text, BoxButtons buttons, BoxIcon icon) = 0;
 
   // Shows a text with an OK button, and below it lines that the code page may not hold (UTF-8).

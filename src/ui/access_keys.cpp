@@ -21,6 +21,7 @@ constexpr AccessKey kPrincipaleKeys[] = {
     {"mnu_PropSavegame", 'R'}, {"mnu_Copy", 'C'},        {"mnu_Move", 'M'},
     {"mnu_Delete", 'D'},       {"mnu_Reorder", 'O'},     {"mnu_Scansione", 'R'},
     {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'}, {"mnu_ShowHelp", 'H'},
+    {"mnu_Rescued", 'S'},
 };
 
 constexpr AccessKey kSetNewArcKeys[] = {
@@ -86,6 +87,11 @@ constexpr AccessKey kCatturaKeys[] = {
     {"Pul_Ok", 'O'}, {"Pul_Annulla", 'C'},
 };
 
+constexpr AccessKey kRescuedKeys[] = {
+    {"Pul_ToArchive", 'A'}, {"Pul_ToGame", 'G'}, {"Pul_ShowFolder", 'F'},
+    {"Pul_Delete", 'D'},    {"Pul_Close", 'C'},
+};
+
 std::span<const AccessKey> KeysOf(WindowId window) {
   switch (window) {
     case WindowId::kPrincipale:
@@ -104,6 +110,8 @@ std::span<const AccessKey> KeysOf(WindowId window) {
       return kGetDirKeys;
     case WindowId::kDialogRiordina:
       return kRiordinaKeys;
+    case WindowId::kDialogRescued:
+      return kRescuedKeys;
     default:
       return {};
   }

@@ -43,6 +43,7 @@ constexpr Command kCommands[] = {
 
     {"mnu_Tools", "mnu_Reorder", nullptr, "", Show<WindowId::kDialogRiordina>},
     {"mnu_Tools", "mnu_Scansione", nullptr, "F5", RescanCommand},
+    {"mnu_Tools", "mnu_Rescued", nullptr, "", Show<WindowId::kDialogRescued>},
 
     {"mnu_Preference", "mnu_PrefArchive", nullptr, "", Show<WindowId::kDialogSetNewArc>},
     {"mnu_Preference", "mnu_PrefManager", nullptr, "", Show<WindowId::kDialogPref>},

@@ -5,6 +5,7 @@
 #include "ui/modal_dialog.h"
 #include "ui/preferences_dialog.h"
 #include "ui/reorder_dialog.h"
+#include "ui/rescued_dialog.h"
 #include "ui/savegame_properties_dialog.h"
 #include "ui/search_dialog.h"
 
@@ -24,6 +25,8 @@ std::unique_ptr<ModalDialog> MakeModalDialog(WindowId window, Program& program) 
       return std::make_unique<FolderChooserDialog>(program);
     case WindowId::kDialogRiordina:
       return std::make_unique<ReorderDialog>(program);
+    case WindowId::kDialogRescued:
+      return std::make_unique<RescuedDialog>(program);
     default:
       return nullptr;
   }

@@ -35,7 +35,7 @@ TEST_F(DeleteSelectedTest, DeletesWithNoteAndPictureAfterAskingAndScans) {
   EXPECT_EQ(disk.Listed("Archive/Slot1"), "note2.txt|savegame.2|");
   EXPECT_EQ(disk.Listed("Game"), "tomb4.exe|");
   EXPECT_EQ(boxes.AllTexts(), "Remove permanently3 selected savegames?\nRemoved 3 savegames\n");
-  EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::kYesNo);
+  EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::kYesNoFromNo);
   EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kNone);
   EXPECT_TRUE(sounds.Take().starts_with("s6|"));
   EXPECT_EQ(program.catalogue.EntryCount(), 1);

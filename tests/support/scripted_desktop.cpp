@@ -9,6 +9,7 @@ BoxAnswer ScriptedMessageBoxes::Show(const std::string& text, BoxButtons buttons
   if (while_waiting) while_waiting();
   if (buttons == BoxButtons::kOk) return BoxAnswer::kOk;
   if (answers.empty()) {
+    if (buttons == BoxButtons::kYesNoFromNo) return BoxAnswer::kNo;
     return buttons == BoxButtons::kOkCancel ? BoxAnswer::kOk : BoxAnswer::kYes;
   }
   const BoxAnswer answer = answers.front();

@@ -18,6 +18,7 @@ QMessageBox::StandardButtons ButtonsFor(BoxButtons buttons) {
     case BoxButtons::kOkCancel:
       return QMessageBox::Ok | QMessageBox::Cancel;
     case BoxButtons::kYesNo:
+    case BoxButtons::kYesNoFromNo:
     case BoxButtons::kYesNoToKeep:
       break;
   }
@@ -91,8 +92,9 @@ BoxAnswer QtMessageBoxes::ShowText(const QString& text, BoxButtons buttons, BoxI
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   SetLongText(box, box.text());
   const bool keeps = buttons == BoxButtons::kYesNoToKeep;
-  const bool asks = keeps || buttons == BoxButtons::kYesNo;
-  box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
+  const bool from_no = buttons == BoxButtons::kYesNoFromNo;
+  const bool asks = keeps || from_no || buttons == BoxButtons::kYesNo;
+  box.setDefaultButton(from_no ? QMessageBox::No : asks ? QMessageBox::Yes : QMessageBox::Ok);
   if (asks) box.setEscapeButton(keeps ? QMessageBox::Yes : QMessageBox::No);
 
   switch (box.exec()) {
