@@ -159,6 +159,20 @@ constexpr TableMessage kOwnMessages[] = {
      "could not be kept in ~1: ~2. This is the note:"},
     {kNameCapturedPicture, "The captured screen-shot"},
 
+    {kNoteGoesOn,
+     "[The note goes on: these are the first ~1 of ~2 characters. All of it is kept, and the "
+     "search "
+     "finds all of it.]"},
+    {kNothingSelected, "No savegame is selected"},
+    {kHeadingCounter, "No."},
+    {kHeadingLevel, "Level"},
+    {kHeadingNote, "Note"},
+    {kListLegend, "T: Tomb Raider folder   I: screen-shot   ~1: new line"},
+    {kListDescription,
+     "Each line begins with T when the savegame lies in the Tomb Raider folder and with I when it "
+     "has a screen-shot. The internal savegame counter, the level and the note follow; ~1 stands "
+     "for a new line of the note."},
+
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
     {kNoteCharacters,
      "A note cannot hold these characters: ~1\r\nThe first of them is marked. Nothing has been "

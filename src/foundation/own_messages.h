@@ -96,6 +96,15 @@ enum OwnMessage : int {
   kTypedNoteNotKept,     // ~1 folder, ~2 reason; followed by the note
   kNameCapturedPicture,  // for assistive technology
 
+  // Main window
+  kNoteGoesOn,       // ~1 characters shown, ~2 characters in all
+  kNothingSelected,  // no values
+  kHeadingCounter,   // at most five characters
+  kHeadingLevel,     // at most 28 characters
+  kHeadingNote,      // no values
+  kListLegend,       // ~1 mark of a line break
+  kListDescription,  // ~1 mark of a line break; for assistive technology and as a tool tip
+
   // Savegame properties
   kCounterOutOfRange,  // no values
   kNoteCharacters,     // ~1 characters

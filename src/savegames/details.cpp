@@ -20,6 +20,7 @@ std::int16_t BuildSelection(Program& program) {
 }
 
 void RefreshDetails(Program& program) {
+  constexpr std::size_t kMostShown = 8000;
   const std::int16_t count = BuildSelection(program);
   MainWindow& window = program.main_window;
 
@@ -29,7 +30,7 @@ void RefreshDetails(Program& program) {
     const auto index = static_cast<std::size_t>(program.selection.indices.front());
     const SavegameEntry& entry = program.catalogue.entries[index];
     window.SetField(Field::kPathSavegame, entry.SavegamePath);
-    window.SetField(Field::kNote, NoteForTextBox(entry.NoteText));
+    window.SetField(Field::kNote, BeginningForTextBox(entry.NoteText, kMostShown));
     program.details.CurrentShotPath =
         FileExists(program.files, entry.ShotPath) ? entry.ShotPath : program.paths.DefaultShotPath;
     window.ShowPicture(program.details.CurrentShotPath);

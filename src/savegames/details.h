@@ -12,7 +12,7 @@ struct Program;
 std::int16_t BuildSelection(Program& program);
 
 // Rebuilds the selection and shows the path, note and picture of the one selected savegame, or the
-// count of several.
+// count of several. Of a very long note the beginning is shown, and that it goes on.
 void RefreshDetails(Program& program);
 
 // Leaves exactly this catalogue entry's line selected and shows its details.

@@ -5,6 +5,7 @@
 
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "program.h"
 
 namespace vellumark {
@@ -12,10 +13,21 @@ namespace {
 
 constexpr std::size_t kMarkColumns = 2;
 constexpr std::size_t kCounterEnd = 7;  // one past the counter's usual last column
-constexpr std::size_t kLevelColumn = 8;
 constexpr std::size_t kLevelWidth = kNoteColumn - kLevelColumn;
 
 }  // namespace
+
+std::string FormatListHeading() {
+  std::string line = LoadMessage(319) + LoadMessage(320);
+  const auto add = [&line](std::size_t column, int message) {
+    line.resize(column, ' ');
+    line += LoadMessage(message);
+  };
+  add(kCounterEnd - LoadMessage(kHeadingCounter).size(), kHeadingCounter);
+  add(kLevelColumn, kHeadingLevel);
+  add(kNoteColumn, kHeadingNote);
+  return line;
+}
 
 std::string FormatListLine(Program& program, int index) {
   const SavegameEntry& entry = program.catalogue.entries[static_cast<std::size_t>(index)];
@@ -27,7 +39,6 @@ std::string FormatEntryLine(const SavegameEntry& entry, bool has_shot) {
   static const char shot_mark = LoadMessage(320).front();
 
   std::string line;
-  line.reserve(kNoteColumn + entry.NoteText.size());
   line.resize(kNoteColumn, ' ');
   if (entry.FolderNumber == 0) line[0] = game_mark;
   if (has_shot) line[1] = shot_mark;
@@ -40,7 +51,9 @@ std::string FormatEntryLine(const SavegameEntry& entry, bool has_shot) {
 
   std::copy_n(entry.LevelName.begin(), std::min(entry.LevelName.size(), kLevelWidth),
               line.begin() + static_cast<std::ptrdiff_t>(kLevelColumn));
-  return line += entry.NoteText;
+  line.append(entry.NoteText, 0, kNoteInLine);
+  if (entry.NoteText.size() > kNoteInLine) line += "...";
+  return line;
 }
 
 }  // namespace vellumark

@@ -1,6 +1,8 @@
 #include "savegames/notes.h"
 
 #include "foundation/file_utilities.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "foundation/record.h"
 #include "foundation/strings.h"
 
@@ -33,6 +35,12 @@ FileError WriteNoteFile(FileSystem& files, const std::string& path, std::string_
 
 std::string NoteForTextBox(std::string_view stored) {
   return WithByteReplaced(stored, kStoredLineBreak, '\r');
+}
+
+std::string BeginningForTextBox(std::string_view stored, std::size_t most) {
+  if (stored.size() <= most) return NoteForTextBox(stored);
+  return NoteForTextBox(stored.substr(0, most)) + "\r\r" +
+         LoadMessage(kNoteGoesOn, {std::to_string(most), std::to_string(stored.size())});
 }
 
 std::string NoteToStore(std::string_view text) {

@@ -24,6 +24,12 @@ FileError WriteNoteFile(FileSystem& files, const std::string& path, std::string_
 
 // Between the stored form and the text of a text box, carriage return for 0x8D.
 std::string NoteForTextBox(std::string_view stored);
+
+// The same of the first characters of a note that is longer than `most`, with a last line that says
+// so: laying out a text that fills its box many times over takes seconds, and minutes where it has
+// no blanks.
+std::string BeginningForTextBox(std::string_view stored, std::size_t most);
+
 std::string NoteToStore(std::string_view text);
 
 }  // namespace vellumark

@@ -15,13 +15,22 @@ NoteBox::NoteBox(const char* name, const Text& text, QWidget* parent)
 }
 
 void NoteBox::ShowNote(const std::string& stored) {
-  setPlainText(ToDisplayText(text_, NoteForTextBox(stored)));
+  if (!ShowBeginning(stored)) setPlainText(ToDisplayText(text_, NoteForTextBox(stored)));
 }
 
 void NoteBox::ShowStoredNote(const std::string& stored) {
+  if (ShowBeginning(stored)) return;
   QString shown = ToQString(text_, NoteForTextBox(stored));
   shown.replace(u'\r', QChar(kStoredLineBreak & 0xFF));
   setPlainText(shown);
+}
+
+bool NoteBox::ShowBeginning(const std::string& stored) {
+  constexpr std::size_t kMostShown = 65536;
+  const bool too_long = stored.size() > kMostShown;
+  setReadOnly(too_long);
+  if (too_long) setPlainText(ToDisplayText(text_, BeginningForTextBox(stored, kMostShown)));
+  return too_long;
 }
 
 std::optional<TypedNote> NoteBox::ChangedNote() const {

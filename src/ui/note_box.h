@@ -16,7 +16,8 @@ class NoteBox final : public QPlainTextEdit {
  public:
   NoteBox(const char* name, const Text& text, QWidget* parent);
 
-  // Shows a note in its stored form.
+  // Shows a note in its stored form. Of one that is too long for a text box only the beginning is
+  // shown; it cannot be changed then.
   void ShowNote(const std::string& stored);
 
   // The same, with the bytes that break its lines shown as they are, beside their line feeds.
@@ -29,6 +30,9 @@ class NoteBox final : public QPlainTextEdit {
   void Mark(const std::vector<std::string>& characters);
 
  private:
+  // False, and nothing is shown, when there is room for the whole note.
+  bool ShowBeginning(const std::string& stored);
+
   QString Lines() const;
 
   const Text& text_;

@@ -1,5 +1,7 @@
 #include "ui/picture_box.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <algorithm>
 
@@ -10,9 +12,19 @@ namespace {
 
 constexpr QSize kLeastSize(64, 48);
 
+QAccessibleInterface* PictureForAssistants(const QString& /*class_name*/, QObject* object) {
+  auto* box = qobject_cast<PictureBox*>(object);
+  return box == nullptr ? nullptr : new QAccessibleWidget(box, QAccessible::Graphic);
+}
+
 }  // namespace
 
-PictureBox::PictureBox(FileSystem& files, QWidget* parent) : QWidget(parent), files_(files) {}
+PictureBox::PictureBox(FileSystem& files, QWidget* parent) : QWidget(parent), files_(files) {
+  [[maybe_unused]] static const bool known = [] {
+    QAccessible::installFactory(PictureForAssistants);
+    return true;
+  }();
+}
 
 void PictureBox::ShowFile(const std::string& path) {
   QImage image;
@@ -30,6 +42,11 @@ void PictureBox::ShowImage(const QImage& image) {
   update();
 }
 
+void PictureBox::SetDimmed(bool dimmed) {
+  dimmed_ = dimmed;
+  update();
+}
+
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
   if (picture_.isNull()) return;
 
@@ -40,7 +57,9 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
         picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     scaled_.setDevicePixelRatio(devicePixelRatioF());
   }
-  QPainter(this).drawPixmap(area.topLeft(), scaled_);
+  QPainter painter(this);
+  if (dimmed_) painter.setOpacity(0.25);
+  painter.drawPixmap(area.topLeft(), scaled_);
 }
 
 ShotBox::ShotBox(FileSystem& files, QWidget* parent) : PictureBox(files, parent) {

@@ -22,6 +22,9 @@ class PictureBox : public QWidget {
 
   void ShowImage(const QImage& image);
 
+  // A picture that belongs to nothing selected stays, but is seen to be in the background.
+  void SetDimmed(bool dimmed);
+
   const QImage& Picture() const { return picture_; }
 
  protected:
@@ -33,6 +36,7 @@ class PictureBox : public QWidget {
  private:
   FileSystem& files_;
   QImage picture_;
+  bool dimmed_ = false;
   QPixmap scaled_;  // the picture at the size it was painted last
 };
 

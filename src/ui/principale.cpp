@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -26,6 +27,7 @@
 #include "program.h"
 #include "savegames/details.h"
 #include "savegames/list_line.h"
+#include "savegames/notes.h"
 #include "session/shut_down.h"
 #include "ui/caption_setter.h"
 #include "ui/capture_dialog.h"
@@ -33,6 +35,7 @@
 #include "ui/controls.h"
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
+#include "ui/read_only_field.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_room.h"
 #include "ui/screen_shot_viewer.h"
@@ -44,15 +47,8 @@ namespace {
 constexpr int kTimerInterval = 500;  // milliseconds
 constexpr int kPaintInterval = 100;  // milliseconds
 
-// A field that shows a text: it can be read, marked and copied, not changed.
-QLineEdit* ReadOnlyField(const char* name, QWidget* parent) {
-  auto* field = Named(new QLineEdit(parent), name);
-  field->setReadOnly(true);
-  return field;
-}
-
 QLineEdit* NumberField(const char* name, QWidget* parent, const QString& widest) {
-  auto* field = ReadOnlyField(name, parent);
+  auto* field = new ReadOnlyField(name, parent);
   field->setAlignment(Qt::AlignCenter);
   field->setFixedWidth(field->fontMetrics().horizontalAdvance(widest) + 24);
   return field;
@@ -85,6 +81,9 @@ Principale::Principale(FileSystem& files, const Text& text) : files_(files), tex
   BuildCentre();
   SetTabOrder();
   NameControlsWithoutCaption();
+  connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &Principale::DimWhatIsNotSelected);
+  connect(list_->model(), &QAbstractItemModel::modelReset, this, &Principale::DimWhatIsNotSelected);
   timer_.setObjectName(QStringLiteral("Timer1"));
   timer_.setInterval(kTimerInterval);
   list_->setFocus();
@@ -124,7 +123,6 @@ void Principale::BuildContextMenu() {
        {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete"}) {
     list_->addAction(findChild<QAction*>(QLatin1String(name)));
   }
-  list_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void Principale::BuildCentre() {
@@ -154,6 +152,7 @@ QWidget* Principale::BuildDetails() {
   picture_ = Named(new ShotBox(files_, details), "Image1");
   note_ = Named(new QPlainTextEdit(details), "Text_Note");
   note_->setReadOnly(true);
+  note_->viewport()->setBackgroundRole(QPalette::Window);
   note_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   note_->setTabChangesFocus(true);
   note_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -171,7 +170,7 @@ QWidget* Principale::BuildPathLine() {
   auto* line = new QWidget(this);
   auto* row = new QHBoxLayout(line);
   row->setContentsMargins(0, 0, 0, 0);
-  path_ = ReadOnlyField("Text_PathSavegame", line);
+  path_ = new ReadOnlyField("Text_PathSavegame", line);
   row->addWidget(LabelFor("Label4", path_));
   row->addWidget(path_, 1);
   return line;
@@ -230,6 +229,12 @@ void Principale::SetTabOrder() {
 void Principale::NameControlsWithoutCaption() {
   const auto message = [this](int number) { return ToQString(text_, LoadMessage(number)); };
   list_->setAccessibleName(message(kNameList));
+  const auto with_mark = [this](int number) {
+    return ToDisplayLine(text_, LoadMessage(number, {std::string(1, kStoredLineBreak)}), 0);
+  };
+  list_->SetHeading(ToQString(text_, FormatListHeading()), with_mark(kListLegend),
+                    with_mark(kListDescription));
+  path_->setPlaceholderText(message(kNothingSelected));
   note_->setAccessibleName(message(kNameNote));
   picture_->setAccessibleName(message(kNamePicture));
   found_->setAccessibleName(message(kNamePosition));
@@ -283,6 +288,15 @@ void Principale::ReplaceLine(int index, const std::string& line) {
 }
 
 std::vector<int> Principale::SelectedLines() const { return list_->SelectedLines(); }
+
+// Note and picture stay when nothing is selected any more; they must not look like the next line's.
+void Principale::DimWhatIsNotSelected() {
+  const bool dimmed = list_->SelectedLines().size() != 1;
+  picture_->SetDimmed(dimmed);
+  QPalette palette;
+  if (dimmed) palette.setBrush(QPalette::Text, palette.placeholderText());
+  note_->setPalette(palette);
+}
 
 void Principale::SelectLine(int index) { list_->SelectLine(index); }
 

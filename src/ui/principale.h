@@ -72,6 +72,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   QWidget* BuildBottomLine();
   void SetTabOrder();
   void NameControlsWithoutCaption();
+  void DimWhatIsNotSelected();
   void Connect(const Command& command);
   void Run(const Command& command);
   bool IsOpen(WindowId dialog);

@@ -33,7 +33,8 @@ namespace {
 enum Column { kSavegame, kNote, kOrigin, kWhy, kColumns };
 
 constexpr int kFolderRow = -1;
-constexpr std::size_t kNoteShown = 120;  // characters
+constexpr std::size_t kNoteShown = 120;        // characters, in the list
+constexpr std::size_t kNoteShownWhole = 8000;  // beside it
 
 int RowOf(const QTreeWidgetItem* item) { return item->data(kSavegame, Qt::UserRole).toInt(); }
 
@@ -193,7 +194,7 @@ void RescuedDialog::ShowChosen() {
       picture = row.path;
     }
   }
-  note_->setPlainText(ToDisplayText(program().text, NoteForTextBox(note)));
+  note_->setPlainText(ToDisplayText(program().text, BeginningForTextBox(note, kNoteShownWhole)));
   picture_->ShowFile(picture);
 }
 

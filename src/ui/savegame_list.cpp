@@ -1,25 +1,31 @@
 #include "ui/savegame_list.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
 #include "ui/fonts.h"
+#include "ui/list_heading.h"
 #include "ui/savegame_list_model.h"
 
 namespace vellumark {
 namespace {
 
-// Gives every line the same size without looking at it, wide enough for the longest.
+// Gives every line the same size without looking at it, wide enough for the longest, and paints of
+// a line no more than can be seen.
 class LineDelegate final : public QStyledItemDelegate {
  public:
-  LineDelegate(const SavegameListModel& lines, QObject* parent)
-      : QStyledItemDelegate(parent), lines_(lines) {}
+  LineDelegate(const SavegameListModel& lines, QWidget* viewport)
+      : QStyledItemDelegate(viewport), lines_(lines), viewport_(viewport) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
     constexpr int kMargin = 4;
@@ -28,21 +34,37 @@ class LineDelegate final : public QStyledItemDelegate {
             option.fontMetrics.height() + kMargin};
   }
 
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // Letters that the font lacks may be narrower than its own.
+    const int narrowest = std::max(1, option->fontMetrics.horizontalAdvance(u'0') / 2);
+    option->text.truncate((viewport_->width() - option->rect.left()) / narrowest);
+  }
+
  private:
   const SavegameListModel& lines_;
+  const QWidget* viewport_;
 };
 
 }  // namespace
 
 SavegameList::SavegameList(QWidget* parent)
-    : QListView(parent), lines_(new SavegameListModel(this)) {
+    : QListView(parent), lines_(new SavegameListModel(this)), heading_(new ListHeading(this)) {
   setModel(lines_);
-  setItemDelegate(new LineDelegate(*lines_, this));
+  setItemDelegate(new LineDelegate(*lines_, viewport()));
   setUniformItemSizes(true);
   setTextElideMode(Qt::ElideNone);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, heading_, &ListHeading::ScrollTo);
+}
+
+void SavegameList::SetHeading(const QString& columns, const QString& legend,
+                              const QString& description) {
+  heading_->SetTexts(columns, legend, description);
+  setAccessibleDescription(description);
 }
 
 void SavegameList::SetLines(QStringList lines) {
@@ -51,6 +73,20 @@ void SavegameList::SetLines(QStringList lines) {
   // it.
   if (!lines.isEmpty()) setFont(ColumnFont());
   lines_->SetLines(std::move(lines));
+  PlaceHeading();
+}
+
+void SavegameList::PlaceHeading() {
+  heading_->setVisible(lines_->rowCount() > 0);
+  const int height = lines_->rowCount() > 0 ? heading_->HeightFor(viewport()->width()) : 0;
+  setViewportMargins(0, height, 0, 0);
+  const QRect lines = viewport()->geometry();
+  heading_->setGeometry(lines.left(), lines.top() - height, lines.width(), height);
+}
+
+void SavegameList::resizeEvent(QResizeEvent* event) {
+  QListView::resizeEvent(event);
+  PlaceHeading();
 }
 
 void SavegameList::ReplaceLine(int index, const QString& line) { lines_->ReplaceLine(index, line); }
@@ -71,9 +107,24 @@ void SavegameList::SelectLine(int index) {
   scrollTo(line);
 }
 
-// The blank that selects a line together with Ctrl is no search for the lines that begin with one.
+// A blank belongs to a level that is being typed; otherwise it is the one that selects a line
+// together with Ctrl.
 void SavegameList::keyboardSearch(const QString& search) {
-  if (search != QLatin1String(" ")) QListView::keyboardSearch(search);
+  const bool typing = typed_.isValid() && !typed_.hasExpired(QApplication::keyboardInputInterval());
+  if (search == QLatin1String(" ") && !typing) return;
+  typed_.start();
+  QListView::keyboardSearch(search);
+}
+
+// By key the menu opens at the current line, of which only the beginning need be in sight.
+void SavegameList::contextMenuEvent(QContextMenuEvent* event) {
+  QPoint place = event->globalPos();
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    scrollTo(currentIndex());
+    const QPoint below = visualRect(currentIndex()).bottomLeft();
+    place = viewport()->mapToGlobal(QPoint(std::max(0, below.x()), below.y()));
+  }
+  QMenu::exec(actions(), place, nullptr, this);
 }
 
 void SavegameList::selectionChanged(const QItemSelection& selected,

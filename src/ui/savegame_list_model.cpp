@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "savegames/list_line.h"
+
 namespace vellumark {
 
 void SavegameListModel::SetLines(QStringList lines) {
@@ -29,6 +31,21 @@ QVariant SavegameListModel::data(const QModelIndex& index, int role) const {
     return lines_[index.row()];
   }
   return {};
+}
+
+QModelIndexList SavegameListModel::match(const QModelIndex& start, int /*role*/,
+                                         const QVariant& value, int hits,
+                                         Qt::MatchFlags flags) const {
+  const QString typed = value.toString();
+  const int first = start.row();
+  const int end = flags.testFlag(Qt::MatchWrap) ? first + rowCount() : rowCount();
+  QModelIndexList found;
+  for (int row = first; row < end && found.size() != hits; ++row) {
+    const int at = row % rowCount();
+    const auto level = QStringView(lines_[at]).mid(kLevelColumn, kNoteColumn - kLevelColumn);
+    if (level.startsWith(typed, Qt::CaseInsensitive)) found.append(index(at));
+  }
+  return found;
 }
 
 }  // namespace vellumark

@@ -22,6 +22,10 @@ class SavegameListModel final : public QAbstractListModel {
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
 
+  // What is typed into a view goes to the lines whose level begins with it, in whatever case.
+  QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                        Qt::MatchFlags flags) const override;
+
  private:
   QStringList lines_;
   qsizetype longest_ = 0;

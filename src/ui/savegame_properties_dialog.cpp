@@ -16,17 +16,12 @@
 #include "ui/controls.h"
 #include "ui/note_box.h"
 #include "ui/path_label.h"
+#include "ui/read_only_field.h"
 
 namespace vellumark {
 namespace {
 
 constexpr int kNoteCaption = 158;
-
-QLineEdit* ReadOnlyField(const char* name, QWidget* parent) {
-  auto* field = Named<QLineEdit>(name, parent);
-  field->setReadOnly(true);
-  return field;
-}
 
 QLabel* LabelFor(const char* name, QWidget* field) {
   auto* label = Named<QLabel>(name, field->parentWidget());
@@ -43,8 +38,8 @@ bool IsPicture(std::string_view bytes) {
 
 SavegamePropertiesDialog::SavegamePropertiesDialog(Program& program)
     : ModalDialog(WindowId::kDialogNote, program),
-      path_(ReadOnlyField("Text_Path", this)),
-      level_(ReadOnlyField("Text_Livello", this)),
+      path_(new ReadOnlyField("Text_Path", this)),
+      level_(new ReadOnlyField("Text_Livello", this)),
       counter_(Named<QLineEdit>("Text_NuovoNSalvataggio", this)),
       note_(new NoteBox("Text_Commento", program.text, this)),
       shot_(new PathLabel("Label_ScreenShot", this)),

@@ -1,18 +1,9 @@
 #include "ui/screen_shot_viewer.h"
 
-#include <QScreen>
-#include <algorithm>
-
 #include "ui/picture_box.h"
+#include "ui/screen_room.h"
 
 namespace vellumark {
-namespace {
-
-// What the window is larger than its picture, frame included.
-constexpr int kSpareWidth = 9;
-constexpr int kSpareHeight = 27;
-
-}  // namespace
 
 ScreenShotViewer::ScreenShotViewer(FileSystem& files, QWidget* main_window)
     : QDialog(main_window, Qt::Window), picture_(new PictureBox(files, this)) {
@@ -25,34 +16,32 @@ ScreenShotViewer::ScreenShotViewer(FileSystem& files, QWidget* main_window)
 void ScreenShotViewer::ShowPicture(const std::string& path) {
   picture_->ShowFile(path);
   setWindowTitle(QString());
-  if (!isVisible()) {
-    constexpr double kMostOfScreen = 0.8;
-    const QSize shown = picture_->Picture().isNull() ? QSize(640, 480) : picture_->Picture().size();
-    const QSize most = screen()->availableGeometry().size() * kMostOfScreen;
-    const QSize fitting =
-        shown.boundedTo(most) == shown ? shown : shown.scaled(most, Qt::KeepAspectRatio);
-    resize(fitting + QSize(kSpareWidth, kSpareHeight));
-  }
+  if (!isVisible()) resize(OpeningSize());
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
 }
 
+// The picture's own size, but neither smaller than a small window nor larger than most of the
+// screen.
+QSize ScreenShotViewer::OpeningSize() const {
+  constexpr QSize kLeast(640, 480);
+  constexpr double kMostOfScreen = 0.8;
+  const QSize room = RoomOnScreen(*this);
+  const QSize most = room * kMostOfScreen;
+  if (picture_->Picture().isNull()) return kLeast.boundedTo(room);
+
+  QSize size = picture_->Picture().size();
+  if (size.boundedTo(most) != size) size.scale(most, Qt::KeepAspectRatio);
+  if (size.expandedTo(kLeast) != size) size.scale(kLeast, Qt::KeepAspectRatioByExpanding);
+  if (size.boundedTo(room) != size) size.scale(room, Qt::KeepAspectRatio);
+  return size;
+}
+
 void ScreenShotViewer::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
-  if (!isMinimized()) FitPicture();
-}
-
-// The window manager puts its frame around a new window by moving it; only then is the frame known.
-void ScreenShotViewer::moveEvent(QMoveEvent* event) {
-  QDialog::moveEvent(event);
-  if (!isMinimized()) FitPicture();
-}
-
-void ScreenShotViewer::FitPicture() {
-  const QSize window = frameGeometry().size();
-  picture_->setGeometry(0, 0, std::max(0, window.width() - kSpareWidth),
-                        std::max(0, window.height() - kSpareHeight));
+  if (!isMinimized()) picture_->setGeometry(rect());
 }
 
 }  // namespace vellumark

@@ -21,10 +21,9 @@ class ScreenShotViewer final : public QDialog {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
-  void moveEvent(QMoveEvent* event) override;
 
  private:
-  void FitPicture();
+  QSize OpeningSize() const;
 
   PictureBox* picture_;
 };

@@ -26,6 +26,7 @@ TEST(ListLineTest, HasItsFieldsInTheirColumns) {
             "     12 Tower" + std::string(24, ' ') + "note\x8D\n2");
   EXPECT_EQ(FormatEntryLine(Entry(0, 7, "", ""), true), "TI    7 " + std::string(29, ' '));
   EXPECT_EQ(FormatEntryLine(Entry(2, -5, "A", ""), false).substr(0, 9), "     -5 A");
+  EXPECT_EQ(FormatListHeading(), "TI  No. Level" + std::string(24, ' ') + "Note");
 }
 
 TEST(ListLineTest, WideValuesNeverShiftTheColumns) {
@@ -40,6 +41,14 @@ TEST(ListLineTest, WideValuesNeverShiftTheColumns) {
     EXPECT_EQ(line.substr(kNoteColumn), "note");
     EXPECT_EQ(line.substr(8, 29), std::string(29, 'L'));
   }
+}
+
+TEST(ListLineTest, HasRoomForTheBeginningOfANote) {
+  const auto note_of = [](std::size_t length) {
+    return FormatEntryLine(Entry(1, 1, "", std::string(length, 'n')), false).substr(kNoteColumn);
+  };
+  EXPECT_EQ(note_of(kNoteInLine), std::string(kNoteInLine, 'n'));
+  EXPECT_EQ(note_of(10'000'000), std::string(kNoteInLine, 'n') + "...");
 }
 
 class DetailsTest : public ::testing::Test, public OpenWorld {
@@ -68,6 +77,11 @@ TEST_F(DetailsTest, ShowTheOneSelectedSavegameAndItsPictureInTheViewer) {
 
   SelectOnly(program, 1);
   EXPECT_EQ(windows.picture, "T:\\Program\\default_shot.jpg");
+
+  program.catalogue.entries[1].NoteText = std::string(1'000'000, 'n');
+  RefreshDetails(program);
+  EXPECT_LT(windows.fields[Field::kNote].size(), 10'000U);
+  EXPECT_NE(windows.fields[Field::kNote].find("first 8000 of 1000000"), std::string::npos);
 }
 
 TEST_F(DetailsTest, KeepThePictureOfTheLastOneWhenSeveralOrNoneAreSelected) {

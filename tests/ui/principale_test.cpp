@@ -1,6 +1,7 @@
 // The real main window over a program on a disk of its own.
 #include "ui/principale.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QMenu>
@@ -108,7 +109,10 @@ void PrincipaleTest::TabFollowsTheReadingOrder() {
   ExpectTabOrder({"Pul_Zoom", "Pul_CambiaProp", "Text_Note", "Text_PathSavegame",
                   "Text_TotSavegame", "Text_TotCartelle", "Pul_Cerca", "Pul_Precedente",
                   "Text_Trovati", "Pul_Seguente", "Pul_Play", "Pul_StartTomb", "List1"});
-  QVERIFY(!Find<QWidget>("Image1")->accessibleName().isEmpty());
+  auto* picture = QAccessible::queryAccessibleInterface(Find<QWidget>("Image1"));
+  QVERIFY(picture->role() == QAccessible::Graphic && !picture->text(QAccessible::Name).isEmpty());
+  QVERIFY(List()->accessibleDescription().contains(QChar(0xB6)));
+  QVERIFY2(List()->viewport()->y() >= 10, "a heading stands over the lines");
   QVERIFY(Find<QPlainTextEdit>("Text_Note")->isReadOnly());
 }
 
@@ -131,6 +135,10 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   Press(Qt::Key_Home);
   QCOMPARE(program_->selection.indices, std::vector<std::int16_t>{0});
 
+  QTest::keyClicks(List(), "the t");
+  QCOMPARE(program_->selection.indices, std::vector<std::int16_t>{2});
+  Press(Qt::Key_Home);
+
   // Another click on the same line looks at its files again.
   world_->disk.Write("Archive/Slot1/shot0.jpg", Jpeg(Qt::blue));
   ClickRow(0);
@@ -140,9 +148,12 @@ void PrincipaleTest::KeysChangeTheDetailsAsClicksDo() {
   ClickRow(2);
   ClickRow(0, Qt::ControlModifier);
   QCOMPARE(program_->selection.indices, (std::vector<std::int16_t>{0, 2}));
-  ClickRow(0, Qt::ControlModifier);
   ClickRow(2, Qt::ControlModifier);
+  const auto shown = [this] { return Find<QWidget>("Image1")->grab().toImage(); };
+  const QImage of_one = shown();
+  ClickRow(0, Qt::ControlModifier);
   QCOMPARE(program_->selection.Count(), std::int16_t{0});
+  QVERIFY2(shown() != of_one, "the picture is seen to be of nothing selected");
   QCOMPARE(TextOf("Text_PathSavegame"), QString());
 }
 
@@ -160,10 +171,12 @@ void PrincipaleTest::CtrlAndTheSpaceBarSelectOneLineMore() {
 void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
   auto* list = List();
   QStringList names;
-  const auto look = [&names] {
+  QPoint place;
+  const auto look = [&names, &place] {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (menu == nullptr) return;
     for (const QAction* action : menu->actions()) names.append(action->objectName());
+    place = menu->pos();
     menu->close();
   };
   const QStringList expected = {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move",
@@ -187,9 +200,11 @@ void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
 
   names.clear();
   QTimer::singleShot(50, this, look);
-  QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, second, list->mapToGlobal(second));
+  const QPoint middle = list->rect().bottomRight();
+  QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, middle, list->mapToGlobal(middle));
   QApplication::sendEvent(list, &menu_key);
   QCOMPARE(names, expected);
+  QVERIFY(std::abs(place.y() - list->viewport()->mapToGlobal(second).y()) < 30);
 }
 
 // Counts how often what it watches is painted.
@@ -284,8 +299,12 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
   QVERIFY(picture->Picture().isNull());
   QCOMPARE(window_->findChildren<ScreenShotViewer*>().size(), 1);
 
+  QVERIFY(viewer->width() >= 640 && viewer->height() >= 480);
   viewer->resize(500, 300);
-  QTRY_COMPARE(picture->size(), viewer->frameGeometry().size() - QSize(9, 27));
+  QTRY_COMPARE(picture->size(), QSize(500, 300));
+  viewer->showMinimized();
+  Click("Pul_Zoom");
+  QVERIFY(!viewer->isMinimized());
   QTest::keyClick(viewer, Qt::Key_Escape);
   QVERIFY(!program_->details.ViewerOpen);
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);

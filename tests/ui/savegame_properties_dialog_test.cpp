@@ -80,6 +80,16 @@ void SavegamePropertiesDialogTest::ANoteThatWasNotChangedGoesBackByteForByte() {
   });
   QCOMPARE(NoteFile(), note + "\r\n");
   QCOMPARE(Entry().NoteText, note);
+
+  const std::string too_long(5'000'000, 'n');
+  Entry().NoteText = too_long;
+  world_->disk.Write("Archive/Slot1/NOTE3.TXT", too_long + "\r\n");
+  InProperties([](const QDialog* dialog) {
+    QVERIFY(Note(dialog)->isReadOnly() && Note(dialog)->toPlainText().size() < 100'000);
+    QVERIFY(Note(dialog)->toPlainText().contains("65536 of 5000000"));
+    Click(dialog, "Pul_Ok");
+  });
+  QVERIFY(NoteFile() == too_long + "\r\n");
 }
 
 void SavegamePropertiesDialogTest::TypedValuesGoToTheSavegameOfTheOpening() {
