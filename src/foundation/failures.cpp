@@ -31,6 +31,8 @@ std::string ReasonFor(FileError error) {
       return LoadMessage(kReasonNotAFolder);
     case FileError::kInUse:
       return LoadMessage(kReasonInUse);
+    case FileError::kTooShort:
+      return LoadMessage(kReasonTooShort);
     case FileError::kStopped:
       return LoadMessage(kReasonStopped);
     case FileError::kInputOutput:

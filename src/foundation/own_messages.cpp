@@ -187,6 +187,10 @@ constexpr TableMessage kOwnMessages[] = {
      "The note that you have typed is still in the window: you can try again or copy it."},
     {kUnseenNoteKept,
      "The savegame had another note than the one that was shown. It is kept in ~1"},
+    {kRestOfNoteKept, "The note's file held more than the note that was shown. It is kept in ~1"},
+    {kNoteChangedMeanwhile,
+     "The note has been changed by another program while this window was open, and stays as it is "
+     "there:"},
 
     {kFolderNotOpened, "The folder ~1 cannot be opened: ~2."},
     {kFolderNotMade, "The folder ~1 could not be created: ~2."},
@@ -299,6 +303,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kReasonInputOutput, "it could not be read or written"},
     {kReasonFolder, "it is a folder"},
     {kReasonStopped, "the session ended before its turn"},
+    {kReasonTooShort, "it is too short to be a savegame"},
 };
 
 }  // namespace

@@ -106,12 +106,14 @@ enum OwnMessage : int {
   kListDescription,  // ~1 mark of a line break; for assistive technology and as a tool tip
 
   // Savegame properties
-  kCounterOutOfRange,  // no values
-  kNoteCharacters,     // ~1 characters
-  kNoPicture,          // ~1 file; question
-  kChangesNotWritten,  // followed by failure lines
-  kNoteStillShown,     // no values
-  kUnseenNoteKept,     // ~1 kept copy
+  kCounterOutOfRange,     // no values
+  kNoteCharacters,        // ~1 characters
+  kNoPicture,             // ~1 file; question
+  kChangesNotWritten,     // followed by failure lines
+  kNoteStillShown,        // no values
+  kUnseenNoteKept,        // ~1 kept copy
+  kRestOfNoteKept,        // ~1 file
+  kNoteChangedMeanwhile,  // followed by the note
 
   // Folder chooser
   kFolderNotOpened,           // ~1 folder, ~2 reason
@@ -203,6 +205,7 @@ enum OwnMessage : int {
   kReasonInputOutput,
   kReasonFolder,
   kReasonStopped,
+  kReasonTooShort,
 };
 
 }  // namespace vellumark

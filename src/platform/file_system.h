@@ -32,6 +32,7 @@ enum class FileError {
   kNotEmpty,       // a folder to be removed still holds something
   kNotAFolder,     // a file stands where a folder should
   kInUse,          // another program holds the file
+  kTooShort,       // the file ends before the place that was to be changed
   kStopped,        // the session ends: the operation did not come to it
   kInputOutput,    // the device failed, or anything else
 };
@@ -182,7 +183,7 @@ class FileSystem {
   virtual FileError Append(const std::string& path, std::string_view bytes) = 0;
 
   // Changes bytes in place from `offset` on, which must lie inside the file together with all
-  // bytes (else kInputOutput); the length stays. Missing: kNotFound. Read-only: kAccessDenied.
+  // bytes (else kTooShort); the length stays. Missing: kNotFound. Read-only: kAccessDenied.
   virtual FileError WriteAt(const std::string& path, std::uint64_t offset,
                             std::string_view bytes) = 0;
 

@@ -8,15 +8,10 @@
 
 namespace vellumark {
 
-namespace {
-
-// True for a file that goes on after its note, as one that another editor has written.
 bool HoldsMoreThanANote(std::string_view bytes) {
   const auto end = bytes.find('\r');
   return end != std::string_view::npos && bytes.find_first_not_of("\r\n", end) != bytes.npos;
 }
-
-}  // namespace
 
 std::string DecodeNote(std::string_view bytes) {
   return std::string(bytes.substr(0, bytes.find('\r')));

@@ -17,6 +17,9 @@ std::string DecodeNote(std::string_view bytes);
 // The note of a note file in its stored form; empty when the file is empty or cannot be read.
 std::string ReadNoteFile(FileSystem& files, const std::string& path);
 
+// True for a file that goes on after its note, as one that another editor has written.
+bool HoldsMoreThanANote(std::string_view bytes);
+
 // Makes or replaces a note file. Carriage returns of the text become 0x8D. A file that holds more
 // than the note that can be read of it is kept as `<name>.bak` first; one that cannot be read stays
 // as it is.

@@ -1,6 +1,7 @@
 #include "savegames/savegame_properties.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "foundation/failures.h"
@@ -60,52 +61,60 @@ bool IsPossibleCounter(Program& program, std::optional<std::int64_t> counter) {
 // entry as they were.
 using Failures = std::vector<Failure>;
 
-// Keeps a note that came into the file behind the dialog's back before another takes its place.
-// False when that failed; `kept` is where it is now, empty when there was none.
-bool KeepUnseenNote(Program& program, const SavegameChanges& changes, std::string& kept) {
+// What the file holds beside the note that was shown goes before nothing that was typed: it is kept
+// first. False when that failed.
+bool KeepUnseen(Program& program, const SavegameChanges& changes, std::string_view bytes,
+                std::string& story) {
   const std::string& path = EntryAt(program, changes.index).NotePath;
-  const ReadResult read = program.files.Read(path, FileSystem::kWholeFile);
-  if (read.error == FileError::kNotFound) return true;
-  if (read.error != FileError::kNone) return false;
-  const std::string note = DecodeNote(read.bytes);
-  if (note.empty() || note == changes.shown_note || note == changes.note->stored) return true;
+  const std::string note = DecodeNote(bytes);
+  const bool goes_on = HoldsMoreThanANote(bytes);
+  const bool foreign = !note.empty() && note != changes.shown_note && note != changes.note->stored;
+  if (!foreign && !goes_on) return true;
   const auto backup = KeepBackupOf(program.files, path);
-  if (backup) kept = *backup;
-  return backup.has_value();
+  if (!backup) return false;
+  story = LoadMessage(foreign ? kUnseenNoteKept : kRestOfNoteKept, {Quoted(*backup)});
+  return true;
+}
+
+// True when the file of a note that the user has not touched is to stay as it is: another program
+// has changed it meanwhile, or it goes on after the note.
+bool StaysAsItIs(const SavegameChanges& changes, const ReadResult& now, SavegameEntry& entry,
+                 std::string& story) {
+  if (now.error != FileError::kNone) return false;
+  const std::string note = DecodeNote(now.bytes);
+  if (note == changes.shown_note) return HoldsMoreThanANote(now.bytes);
+  entry.NoteText = note;
+  story = LoadMessage(kNoteChangedMeanwhile) + kLineBreak + BeginningForTextBox(note, 1000);
+  return true;
 }
 
 bool StoreNote(Program& program, const SavegameChanges& changes, Failures& failures,
-               std::string& kept) {
+               std::string& story) {
   SavegameEntry& entry = EntryAt(program, changes.index);
-  // The list may show another note than the file holds by now, which the user has not touched.
-  if (!changes.note) {
-    const ReadResult now = program.files.Read(entry.NotePath, FileSystem::kWholeFile);
-    if (now.error == FileError::kNone && DecodeNote(now.bytes) != entry.NoteText) return true;
-    if (now.error != FileError::kNone && now.error != FileError::kNotFound) {
-      failures.push_back({entry.NotePath, now.error});
-      return false;
-    }
+  const ReadResult now = program.files.Read(entry.NotePath, FileSystem::kWholeFile);
+  FileError error = now.error == FileError::kNotFound ? FileError::kNone : now.error;
+  if (error == FileError::kNone) {
+    if (!changes.note && StaysAsItIs(changes, now, entry, story)) return true;
+    const std::string note = changes.note ? changes.note->stored : changes.shown_note;
+    const bool safe = !changes.note || KeepUnseen(program, changes, now.bytes, story);
+    error = safe ? WriteNoteFile(program.files, entry.NotePath, note) : FileError::kInputOutput;
+    if (error == FileError::kNone) entry.NoteText = note;
   }
-  const std::string note = changes.note ? changes.note->stored : entry.NoteText;
-  const bool safe = !changes.note || KeepUnseenNote(program, changes, kept);
-  const FileError error =
-      safe ? WriteNoteFile(program.files, entry.NotePath, note) : FileError::kInputOutput;
-  if (error != FileError::kNone) {
-    failures.push_back({entry.NotePath, error});
-    return false;
-  }
-  entry.NoteText = note;
-  return true;
+  if (error != FileError::kNone) failures.push_back({entry.NotePath, error});
+  return error == FileError::kNone;
 }
 
 void RemoveScreenShot(Program& program, int index, Failures& failures) {
   const std::string shot = LinkedShot(program, index);
   if (shot.empty()) {
     Tell(program, LoadMessage(162));
-  } else if (const FileError error = program.files.Delete(shot); error != FileError::kNone) {
-    failures.push_back({shot, error});
-  } else {
+    return;
+  }
+  FileError error = FileError::kNone;
+  if (DeleteFileForced(program.files, shot, &error)) {
     ForgetBackedUp(program, shot);
+  } else {
+    failures.push_back({shot, error});
   }
 }
 
@@ -122,15 +131,25 @@ void StoreCounter(Program& program, int index, std::int16_t counter, Failures& f
 }
 
 void TellOutcome(Program& program, const Failures& failures, bool keeps_note,
-                 const std::string& kept) {
-  if (!kept.empty()) {
-    Tell(program, LoadMessage(kUnseenNoteKept, {Quoted(kept)}), BoxIcon::kExclamation);
-  }
+                 const std::string& story) {
+  if (!story.empty()) Tell(program, story, BoxIcon::kExclamation);
   if (failures.empty()) return;
   std::string text = LoadMessage(kChangesNotWritten) + DescribeFailures(failures);
   if (keeps_note) text += kLineBreak + LoadMessage(kNoteStillShown);
   PlaySoundEffect(program, SoundEffect::kRefusal);
   Tell(program, text, BoxIcon::kExclamation);
+}
+
+// Another program may have changed the note since the scan.
+void ReadNoteAgain(Program& program, int index) {
+  SavegameEntry& entry = EntryAt(program, index);
+  const ReadResult now = program.files.Read(entry.NotePath, FileSystem::kWholeFile);
+  if (now.error != FileError::kNone && now.error != FileError::kNotFound) return;
+  std::string note = DecodeNote(now.bytes);
+  if (note == entry.NoteText) return;
+  entry.NoteText = std::move(note);
+  program.main_window.ReplaceLine(index, FormatListLine(program, index));
+  RefreshDetails(program);
 }
 
 }  // namespace
@@ -147,6 +166,7 @@ void ShowSavegameProperties(Program& program) {
 SavegameProperties PrepareSavegameProperties(Program& program) {
   PlaySoundEffect(program, SoundEffect::kOpening);
   const int index = program.selection.indices.front();
+  ReadNoteAgain(program, index);
   const SavegameEntry& entry = EntryAt(program, index);
   const std::string counter = WithSignPlace(entry.InternalCounter);
   return {.index = index,
@@ -179,8 +199,12 @@ ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& chan
   if (!IsPossibleCounter(program, counter)) return ChangesAnswer::kRefused;
 
   Failures failures;
-  std::string kept;
-  const bool keeps_note = !StoreNote(program, changes, failures, kept) && changes.note;
+  std::string story;
+  // Nothing else is done then: the user may still cancel.
+  if (!StoreNote(program, changes, failures, story) && changes.note) {
+    TellOutcome(program, failures, true, story);
+    return ChangesAnswer::kNoteNotWritten;
+  }
   if (changes.remove_shot) RemoveScreenShot(program, changes.index, failures);
   if (counter) {
     StoreCounter(program, changes.index, static_cast<std::int16_t>(*counter), failures);
@@ -189,8 +213,8 @@ ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& chan
   program.main_window.ReplaceLine(changes.index, FormatListLine(program, changes.index));
   program.archive.ArchiveChanged = true;
   SelectOnly(program, changes.index);
-  TellOutcome(program, failures, keeps_note, kept);
-  return keeps_note ? ChangesAnswer::kNoteNotWritten : ChangesAnswer::kDone;
+  TellOutcome(program, failures, false, story);
+  return ChangesAnswer::kDone;
 }
 
 }  // namespace vellumark

@@ -27,7 +27,8 @@ struct SavegameProperties {
   std::string shot{};  // empty when there is no screen-shot
 };
 
-// The fields for the first selected savegame, with the opening sound.
+// The fields for the first selected savegame, the note as it is on the disk now, with the opening
+// sound.
 SavegameProperties PrepareSavegameProperties(Program& program);
 
 // The path of a savegame's screen-shot; empty when the file does not exist.
@@ -50,14 +51,15 @@ struct SavegameChanges {
 
 enum class ChangesAnswer {
   kRefused,         // the user was told why; nothing has been written
-  kNoteNotWritten,  // all but the changed note is done: the dialog must keep it
+  kNoteNotWritten,  // the changed note could not be written, and nothing else has been done
   kDone,            // failures were told
 };
 
 // Writes the note, removes the screen-shot when asked to, writes a changed counter, and brings the
 // list and the details in step. A file that cannot be changed keeps what it held, and so does its
-// field in the catalogue; all such files are told in one message at the end. So is a note of the
-// file that the dialog has not shown, and which is kept as `<name>.bak` under a changed one.
+// field in the catalogue; all such files are told in one message at the end. What the note's file
+// holds beside the note that was shown is kept: untouched when the user has not changed the note,
+// as `<name>.bak` under a changed one, which is told.
 ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& changes);
 
 }  // namespace vellumark

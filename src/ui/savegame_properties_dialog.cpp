@@ -131,8 +131,6 @@ void SavegamePropertiesDialog::Accept() {
       }
       return;
     case ChangesAnswer::kNoteNotWritten:
-      remove_shot_->setChecked(false);
-      ShowShot();
       note_->setFocus();
       return;
     case ChangesAnswer::kDone:

@@ -83,7 +83,7 @@ TEST_F(DiskWritingTest, WriteAtStaysInsideTheFile) {
   EXPECT_EQ(fs_.WriteAt("T:\\A", 8, "xy"), FileError::kNone);
   EXPECT_EQ(disk_.Read("a"), "01234567xy");
   ExpectRefused(
-      FileError::kInputOutput,
+      FileError::kTooShort,
       {[&] { return fs_.WriteAt("T:\\a", 9, "zz"); }, [&] { return fs_.WriteAt("T:\\a", 11, ""); },
        [&] { return fs_.WriteAt("T:\\a", ~std::uint64_t{0}, "zz"); }});
   EXPECT_EQ(fs_.WriteAt("T:\\none", 0, ""), FileError::kNotFound);

@@ -42,11 +42,13 @@ class SavegamePropertiesTest : public ::testing::Test, public OpenWorld {
   ChangesAnswer Apply(const std::string& counter, std::optional<TypedNote> note = {},
                       bool remove_shot = false) {
     return ApplySavegameChanges(program, {.index = kIndex,
-                                          .shown_note = "old\x8D\nnote",
+                                          .shown_note = shown.value_or(entry().NoteText),
                                           .note = std::move(note),
                                           .counter = counter,
                                           .remove_shot = remove_shot});
   }
+
+  std::optional<std::string> shown;  // the note that the dialog was opened with
 
   bool Choose(const std::string& file) {
     dialogs.answers = {file};
@@ -60,7 +62,7 @@ TEST_F(SavegamePropertiesTest, NoFailingCallCostsANoteThatTheDialogHasNotShown) 
       SCOPED_TRACE(::testing::Message() << "call " << call << (typed ? ", a note was typed" : ""));
       const std::string unseen = "unseen " + std::to_string(call);
       disk.Write("Archive/note3.txt", unseen + "\r\n");
-      entry().NoteText = typed ? "old\x8D\nnote" : "";
+      shown = typed ? "old\x8D\nnote" : "";
       files.FailCall(call, FileError::kInputOutput);
       Apply("12", typed ? std::optional(TypedNote{.stored = "mine"}) : std::nullopt);
       std::string all;
@@ -106,16 +108,37 @@ TEST_F(SavegamePropertiesTest, OkWithoutAChangeWritesTheNoteAgainAndNotTheSavega
   EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(SavegamePropertiesTest, ANoteThatTheUserHasNotChangedDoesNotUndoANewerOne) {
+TEST_F(SavegamePropertiesTest, ShowTheNoteThatIsOnTheDiskByNow) {
+  disk.Write("Archive/note3.txt", "newer\r\n");
+  EXPECT_EQ(PrepareSavegameProperties(program).note, "newer");
+  EXPECT_TRUE(windows.lines[kIndex].ends_with("newer"));
+  EXPECT_EQ(windows.fields[MainWindow::Field::kNote], "newer");
+}
+
+TEST_F(SavegamePropertiesTest, WhatTheFileHoldsBesideTheShownNoteIsKeptAndTold) {
+  shown = entry().NoteText;
   disk.Write("Archive/note3.txt", "newer\r\n");
   EXPECT_EQ(Apply("12"), ChangesAnswer::kDone);
   EXPECT_EQ(disk.Read("Archive/note3.txt"), "newer\r\n");
+  EXPECT_TRUE(Contains(LastBox(), "newer"));
+  EXPECT_TRUE(windows.lines[kIndex].ends_with("newer"));
 
   EXPECT_EQ(Apply("12", TypedNote{.stored = "typed"}), ChangesAnswer::kDone);
   EXPECT_EQ(disk.Read("Archive/note3.txt"), "typed\r\n");
   EXPECT_EQ(disk.Read("Archive/note3.txt.bak"), "newer\r\n") << "the user has not seen it";
-  EXPECT_EQ(boxes.shown.back().text,
-            LoadMessage(kUnseenNoteKept, {"\"T:\\Archive\\note3.txt.bak\""}));
+  EXPECT_EQ(LastBox(), LoadMessage(kUnseenNoteKept, {"\"T:\\Archive\\note3.txt.bak\""}));
+
+  boxes.shown.clear();
+  const std::string of_an_editor = "first\r\nsecond\r\nthird\r\n";
+  disk.Write("Archive/note3.txt", of_an_editor);
+  shown = "first";
+  EXPECT_EQ(Apply("14"), ChangesAnswer::kDone);
+  EXPECT_EQ(disk.Read("Archive/note3.txt"), of_an_editor);
+  EXPECT_EQ(disk.Listed("Archive"), "note3.txt|note3.txt.bak|savegame.3|");
+  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_EQ(Apply("14", TypedNote{.stored = "typed"}), ChangesAnswer::kDone);
+  EXPECT_EQ(disk.Read("Archive/note3.txt.bak2"), of_an_editor);
+  EXPECT_EQ(LastBox(), LoadMessage(kRestOfNoteKept, {"\"T:\\Archive\\note3.txt.bak2\""}));
 }
 
 TEST_F(SavegamePropertiesTest, OkKeepsFilesListAndDetailsInStep) {
@@ -152,24 +175,34 @@ TEST_F(SavegamePropertiesTest, ARefusedOkWritesNothing) {
 
 TEST_F(SavegamePropertiesTest, FilesThatCannotBeChangedAreToldOnceAndTheRestIsDone) {
   disk.Write("Archive/shot3.jpg", "picture");
-  disk.MakeReadOnly("Archive/savegame.3");
   disk.MakeReadOnly("Archive/shot3.jpg");
+  disk.MakeReadOnly("Archive/savegame.3");
+  files.FailAlways("Delete", "shot3.jpg", FileError::kInUse);
   EXPECT_EQ(Apply("13", TypedNote{.stored = "new"}, true), ChangesAnswer::kDone);
   ASSERT_EQ(boxes.shown.size(), 1U);
-  EXPECT_TRUE(Contains(LastBox(), "savegame.3"));
+  EXPECT_TRUE(Contains(LastBox(), "savegame.3\": it is read-only"));
   EXPECT_TRUE(Contains(LastBox(), "shot3.jpg"));
   EXPECT_EQ(windows.lines[kIndex], " I   12 Tower" + std::string(24, ' ') + "new");
   EXPECT_EQ(disk.Read("Archive/note3.txt"), "new\r\n");
+
+  files.Reset();
+  disk.Remove({"Archive/savegame.3"});
+  disk.Write("Archive/savegame.3", "short");
+  EXPECT_EQ(Apply("13", {}, true), ChangesAnswer::kDone);
+  EXPECT_TRUE(Contains(LastBox(), "savegame.3\": it is too short"));
+  EXPECT_FALSE(disk.Exists("Archive/shot3.jpg")) << "read-only, as Browse may replace it";
 }
 
-TEST_F(SavegamePropertiesTest, ANoteThatCannotBeWrittenIsKeptByTheDialogAndTheOldOneByTheDisk) {
+TEST_F(SavegamePropertiesTest, WhenATypedNoteCannotBeWrittenNothingElseIsDone) {
   disk.MakeReadOnly("Archive/note3.txt");
-  EXPECT_EQ(Apply("13", TypedNote{.stored = "new"}), ChangesAnswer::kNoteNotWritten);
+  disk.Write("Archive/shot3.jpg", "picture");
+  const auto before = disk.AllFiles();
+  EXPECT_EQ(Apply("13", TypedNote{.stored = "new"}, true), ChangesAnswer::kNoteNotWritten);
   EXPECT_TRUE(LastBox().ends_with(LoadMessage(kNoteStillShown)));
   EXPECT_EQ(entry().NoteText, "old\x8D\nnote");
-  EXPECT_EQ(disk.Read("Archive/note3.txt"), "old\x8D\nnote\r\n");
-  EXPECT_EQ(entry().InternalCounter, 13);
+  EXPECT_EQ(disk.AllFiles(), before);
   EXPECT_EQ(Apply("13"), ChangesAnswer::kDone) << "nothing of a note as it was can be lost";
+  EXPECT_EQ(entry().InternalCounter, 13);
 }
 
 TEST_F(SavegamePropertiesTest, AChosenPictureIsCopiedAtOnce) {

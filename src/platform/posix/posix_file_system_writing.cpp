@@ -180,7 +180,7 @@ FileError PosixFileSystem::WriteAt(const std::string& path, std::uint64_t offset
   struct stat status = {};
   if (!file.IsOpen() || fstat(file.number(), &status) != 0) return FileErrorFromNumber(errno);
   const auto size = static_cast<std::uint64_t>(status.st_size);
-  if (offset > size || bytes.size() > size - offset) return FileError::kInputOutput;
+  if (offset > size || bytes.size() > size - offset) return FileError::kTooShort;
 
   // Kept so that a write that fails half way can be taken back.
   std::string old_bytes(bytes.size(), '\0');

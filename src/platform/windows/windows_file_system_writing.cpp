@@ -86,7 +86,7 @@ FileError WindowsFileSystem::WriteAt(const std::string& path, std::uint64_t offs
 
   const auto size = SizeOf(file);
   if (!size) return ErrorUnless(false);
-  if (offset > *size || bytes.size() > *size - offset) return FileError::kInputOutput;
+  if (offset > *size || bytes.size() > *size - offset) return FileError::kTooShort;
 
   // Kept so that a write that fails half way can be taken back.
   FileError error = SetPosition(file, offset);
