@@ -4,15 +4,12 @@
 
 #include "foundation/paths.h"
 #include "foundation/strings.h"
+#include "platform/common/temporary_prefix.h"
 #include "platform/shell.h"
 #include "platform/text.h"
 
 namespace vellumark {
 namespace {
-
-// Matches none of the patterns that the program lists or deletes by. It takes the place of a name's
-// first letters, so that a path that just fits the system stays within its limit.
-constexpr std::string_view kTemporaryPrefix = "~vm~";
 
 bool IsSameFile(FileSystem& files, const std::string& a, const std::string& b) {
   const auto identity = files.Identity(a);

@@ -202,8 +202,9 @@ class FileSystem {
   // Gives a file or folder another name on the same volume. kRefuseExisting answers
   // kAlreadyExists when the target's name is taken (a change of case only is allowed);
   // kReplaceFile puts the file in the target file's place in one step, keeping the target's
-  // spelling, and answers kAccessDenied for a read-only target. kAmbiguous when either name is.
-  // kAccessDenied may also be the answer to moving a link into another folder: callers copy then.
+  // spelling, permissions or access list and, where allowed, its owner; a read-only target is
+  // kAccessDenied. kAmbiguous when either name is. kAccessDenied may also be the answer to moving a
+  // link into another folder: callers copy then.
   virtual FileError Rename(const std::string& from, const std::string& to, RenameMode mode) = 0;
 
   // Deletes a file, never a folder. Read-only: kAccessDenied. Ambiguous: kAmbiguous.

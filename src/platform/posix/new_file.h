@@ -8,7 +8,8 @@
 
 namespace vellumark {
 
-// Makes an empty file where none was, and takes it away again unless Finish succeeds.
+// Makes an empty file under a temporary name where none was, and takes it away again unless Finish
+// succeeds. What the end of the program leaves behind never has the file's own name.
 class NewFile {
  public:
   explicit NewFile(std::string host);
@@ -20,13 +21,15 @@ class NewFile {
   int error() const { return error_; }
   int descriptor() const { return file_.number(); }
 
-  // Closes the file, which stays when this answers 0; otherwise the number of the failure.
+  // Closes the file and gives it its name when this answers 0; otherwise the number of the failure,
+  // EEXIST when something has got the name meanwhile.
   int Finish();
 
  private:
   std::string host_;
-  Descriptor file_;
+  std::string made_;  // where it is made
   int error_ = 0;
+  Descriptor file_;
   bool stays_ = false;
 };
 

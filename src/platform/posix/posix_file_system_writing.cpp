@@ -59,6 +59,15 @@ int RenameToOtherCase(const NamePlace& place, const std::string& new_name) {
   return std::rename(place.Host().c_str(), renamed.Host().c_str()) == 0 ? 0 : errno;
 }
 
+// A file in the place of another has its owner, where that is allowed, and its permissions.
+void TakeOver(const std::string& file, const struct stat& from) {
+  const uid_t anyone = static_cast<uid_t>(-1);
+  if (chown(file.c_str(), from.st_uid, from.st_gid) != 0) {
+    static_cast<void>(chown(file.c_str(), anyone, from.st_gid) != 0);
+  }
+  chmod(file.c_str(), from.st_mode & 07777U);
+}
+
 FileError ReplaceFile(const std::string& from, const std::string& to) {
   const FileError refused = CheckWritableFile(to);
   if (refused != FileError::kNone) return refused;
@@ -68,6 +77,7 @@ FileError ReplaceFile(const std::string& from, const std::string& to) {
   struct stat status = {};
   if (stat(from.c_str(), &status) != 0) return FileErrorFromNumber(errno);
   if (!S_ISREG(status.st_mode) || AreTheSame(from, to)) return FileError::kAccessDenied;
+  if (stat(to.c_str(), &status) == 0) TakeOver(from, status);
   return FileErrorFromNumber(std::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno);
 }
 

@@ -8,7 +8,8 @@
 
 namespace vellumark {
 
-// Makes an empty file where none was, and takes it away again unless Finish succeeds.
+// Makes an empty file under a temporary name where none was, and takes it away again unless Finish
+// succeeds. What the end of the program leaves behind never has the file's own name.
 class NewFile {
  public:
   explicit NewFile(std::wstring path);
@@ -20,13 +21,15 @@ class NewFile {
   FileError error() const { return error_; }
   const FileHandle& handle() const { return file_; }
 
-  // Closes the file, which stays when this answers kNone.
+  // Closes the file and gives it its name when this answers kNone; kAlreadyExists when something
+  // has got the name meanwhile.
   FileError Finish();
 
  private:
   std::wstring path_;
-  FileHandle file_;
+  std::wstring made_;  // where it is made
   FileError error_;
+  FileHandle file_;
   bool stays_ = false;
 };
 

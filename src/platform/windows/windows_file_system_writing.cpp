@@ -1,7 +1,9 @@
 // What changes the disk.
 #include <windows.h>
 
+#include <cstddef>
 #include <set>
+#include <vector>
 
 #include "platform/windows/disk_names.h"
 #include "platform/windows/file_error.h"
@@ -20,6 +22,17 @@ std::optional<std::uint64_t> SizeOf(const FileHandle& file) {
 
 FileError Move(const std::wstring& from, const std::wstring& to, DWORD flags) {
   return ErrorUnless(MoveFileExW(from.c_str(), to.c_str(), flags) != 0);
+}
+
+// A file in the place of another has its access list, where that is allowed.
+void TakeOverAccess(const std::wstring& file, const std::wstring& from) {
+  DWORD size = 0;
+  GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  if (size == 0) return;
+  std::vector<std::byte> list(size);
+  if (GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, list.data(), size, &size) != 0) {
+    SetFileSecurityW(file.c_str(), DACL_SECURITY_INFORMATION, list.data());
+  }
 }
 
 // kNone for a file that may be changed. Windows refuses a read-only file by itself; Wine lets an
@@ -166,6 +179,7 @@ FileError WindowsFileSystem::Rename(const std::string& from, const std::string& 
   const FileError refused = CheckWritableFile(target.wide);
   if (refused != FileError::kNone) return refused;
   if (found.attributes.folder || Identity(from) == Identity(to)) return FileError::kAccessDenied;
+  TakeOverAccess(source.wide, spelled);
   return Move(source.wide, spelled, MOVEFILE_REPLACE_EXISTING);
 }
 

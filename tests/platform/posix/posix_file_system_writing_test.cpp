@@ -113,6 +113,32 @@ TEST(CompareAllTest, FindsEveryDifference) {
   }
 }
 
+TEST_F(PosixFileSystemTest, WhatTheEndOfTheProgramLeavesOfACopyHasNotItsName) {
+  disk_.Write("savegame.1", std::string(100'000, 's'));
+  const auto die_halfway = [this] {
+    const struct rlimit limit = {50'000, 50'000};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    static_cast<void>(fs_.Copy("T:\\savegame.1", "T:\\new\\savegame.2"));
+  };
+  stdfs::create_directory(disk_ / "new");
+  EXPECT_EXIT(die_halfway(), ::testing::KilledBySignal(SIGXFSZ), "");
+  EXPECT_EQ(disk_.Listed("new"), "~vm~game.2|");
+  EXPECT_EQ(fs_.Copy("T:\\savegame.1", "T:\\new\\savegame.2"), FileError::kNone);
+  EXPECT_EQ(disk_.Listed("new"), "savegame.2|") << "the leftover has given way";
+}
+
+TEST_F(PosixFileSystemTest, AReplacedFileKeepsItsPermissionsAndItsOwner) {
+  disk_.Write("private", "old");
+  disk_.Write("other", "new");
+  const bool may_give = chown((disk_ / "private").c_str(), 4711, 4712) == 0;
+  ASSERT_EQ(chmod((disk_ / "private").c_str(), 0640), 0);
+  EXPECT_EQ(fs_.Rename("T:\\other", "T:\\private", kReplace), FileError::kNone);
+  struct stat status = {};
+  ASSERT_EQ(stat((disk_ / "private").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  EXPECT_TRUE(!may_give || (status.st_uid == 4711 && status.st_gid == 4712));
+}
+
 TEST_F(PosixFileSystemTest, RenamingInOneStepOrInSeveralNeverReplaces) {
   disk_.Write("a", "1");
   disk_.Write("b", "2");
