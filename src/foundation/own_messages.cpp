@@ -193,6 +193,9 @@ constexpr TableMessage kOwnMessages[] = {
      "there:"},
 
     {kFolderNotOpened, "The folder ~1 cannot be opened: ~2."},
+    {kFolderIsOwn,
+     "The folder ~1 cannot be chosen: Vellumark keeps your own slots or savegames that were set "
+     "aside there."},
     {kFolderNotMade, "The folder ~1 could not be created: ~2."},
     {kFolderNameNotExpressible,
      "This folder name cannot be used: savegame archives cannot hold the marked character."},
@@ -304,6 +307,8 @@ constexpr TableMessage kOwnMessages[] = {
     {kReasonFolder, "it is a folder"},
     {kReasonStopped, "the session ended before its turn"},
     {kReasonTooShort, "it is too short to be a savegame"},
+    {kReasonCompanionLeft,
+     "the note or the screen-shot of another savegame is still there and would become its own"},
 };
 
 }  // namespace

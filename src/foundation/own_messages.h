@@ -117,6 +117,7 @@ enum OwnMessage : int {
 
   // Folder chooser
   kFolderNotOpened,           // ~1 folder, ~2 reason
+  kFolderIsOwn,               // ~1 folder
   kFolderNotMade,             // ~1 folder, ~2 reason
   kFolderNameNotExpressible,  // no values
   kFolderRefusedCharacters,   // no values
@@ -206,6 +207,7 @@ enum OwnMessage : int {
   kReasonFolder,
   kReasonStopped,
   kReasonTooShort,
+  kReasonCompanionLeft,
 };
 
 }  // namespace vellumark

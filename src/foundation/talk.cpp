@@ -14,7 +14,7 @@ BoxAnswer NotShown(Program& program, const std::string& text, BoxButtons buttons
       return BoxAnswer::kOk;
     case BoxButtons::kOkCancel:
       return BoxAnswer::kCancel;
-    case BoxButtons::kYesNoToKeep:
+    case BoxButtons::kYesNoBothAct:
       return BoxAnswer::kYes;
     case BoxButtons::kYesNo:
     case BoxButtons::kYesNoFromNo:
@@ -54,8 +54,8 @@ bool AskFromNo(Program& program, const std::string& text, BoxIcon icon) {
   return Show(program, text, BoxButtons::kYesNoFromNo, icon) == BoxAnswer::kYes;
 }
 
-bool AskToKeep(Program& program, const std::string& text) {
-  return Show(program, text, BoxButtons::kYesNoToKeep, BoxIcon::kNone) != BoxAnswer::kNo;
+bool AskWhich(Program& program, const std::string& text) {
+  return Show(program, text, BoxButtons::kYesNoBothAct, BoxIcon::kNone) == BoxAnswer::kYes;
 }
 
 bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon) {

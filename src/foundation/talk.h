@@ -28,8 +28,9 @@ bool AskYesNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon:
 // Asks with Yes and No, No being the default and the answer of closing the box. True for Yes.
 bool AskFromNo(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);
 
-// The same as AskYesNo for a question whose No deletes: true unless the user has pressed No.
-bool AskToKeep(Program& program, const std::string& text);
+// The same as AskYesNo for a question whose No acts too: Escape answers nothing. Once the session
+// ends the answer is Yes, which is to be the one that keeps more.
+bool AskWhich(Program& program, const std::string& text);
 
 // Asks with OK and Cancel, OK being the default. True for OK.
 bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon = BoxIcon::kNone);

@@ -76,9 +76,10 @@ void ReportProblems(Program& program, const std::string& game_folder,
     report.Add(LoadMessage(kImportNotDeleted, {Quoted(game_folder)}) +
                DescribeFailures(problems.release.not_deleted));
   }
-  if (problems.release.rename != FileError::kNone) {
-    report.Add(LoadMessage(kImportNotRenamed, {FileNameOf(problems.release.highest_file),
-                                               ReasonFor(problems.release.rename)}));
+  if (problems.release.rename != FileError::kNone || problems.release.first_taken) {
+    const std::string why = problems.release.first_taken ? LoadMessage(kReasonCompanionLeft)
+                                                         : ReasonFor(problems.release.rename);
+    report.Add(LoadMessage(kImportNotRenamed, {FileNameOf(problems.release.highest_file), why}));
   }
   if (problems.info != FileError::kNone) {
     report.Add(

@@ -57,7 +57,10 @@ class Releaser {
     if (!FileExists(files_, path)) return;
 
     FileError error = FileError::kInputOutput;
-    if (SameContent(files_, path, InFolder(subfolder_, name))) error = files_.Delete(path);
+    if (SameContent(files_, path, InFolder(subfolder_, name))) {
+      error = FileError::kNone;
+      DeleteFileForced(files_, path, &error);
+    }
     if (error != FileError::kNone) release_.not_deleted.push_back({path, error});
   }
 
@@ -65,6 +68,10 @@ class Releaser {
   void KeepAsFirst(int highest) {
     if (highest == 0) return;
     release_.highest_file = InGame(SavegameFileName(highest));
+    // A note or screen-shot that is still there would become that of another savegame.
+    release_.first_taken =
+        FileExists(files_, InGame(NoteFileName(0))) || FileExists(files_, InGame(ShotFileName(0)));
+    if (release_.first_taken) return;
     const std::string first = game_folder_ + LoadMessage(327);
     release_.rename = files_.Rename(release_.highest_file, first, RenameMode::kRefuseExisting);
   }

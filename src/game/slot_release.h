@@ -13,6 +13,7 @@ struct SlotRelease {
   FileError flush = FileError::kNone;   // otherwise nothing was deleted
   std::vector<Failure> not_deleted;     // copied, but still in the game folder
   FileError rename = FileError::kNone;  // otherwise the highest slot keeps its number
+  bool first_taken = false;             // likewise: a note or screen-shot of slot 0 is still there
   std::string highest_file;             // the savegame that was to become savegame.0
 };
 

@@ -78,7 +78,7 @@ bool CopyOrMoveInto(Program& program, const std::string& folder, CopyMode mode) 
   if (SelectionHasSameSlot(savegames)) {
     if (!AskOkCancel(program, LoadMessage(wording.same_names, {kCarriageReturn}))) return false;
   } else {
-    renumber = AskYesNo(program, LoadMessage(wording.renumber));
+    renumber = AskWhich(program, LoadMessage(wording.renumber));
   }
   std::vector<Failure> old_not_deleted;
   if (KeepTargetSavegames(program, folder, savegames, old_not_deleted)) renumber = true;

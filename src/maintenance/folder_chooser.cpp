@@ -7,6 +7,7 @@
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/record.h"
+#include "foundation/rescue.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
@@ -25,6 +26,23 @@ void Refuse(Program& program, const std::string& text) {
 
 void RefuseFolder(Program& program, const std::string& folder, FileError why) {
   Refuse(program, LoadMessage(kFolderNotOpened, {Quoted(folder), ReasonFor(why)}));
+}
+
+bool TakesSavegames(ChooserMode mode) {
+  return mode == ChooserMode::kCopy || mode == ChooserMode::kMove ||
+         mode == ChooserMode::kNewArchiveFolder || mode == ChooserMode::kExportShots;
+}
+
+// True for the folders of the backup and of what was set aside, and all below them.
+bool IsOwnFolder(Program& program, const std::string& folder) {
+  for (const std::string& own : {program.play.BackupFolder, RescueRoot(program)}) {
+    const auto identity = program.files.Identity(own);
+    for (std::string path = folder; path.size() > 2; path = FolderOf(path)) {
+      if (SamePath(program.text, path, own)) return true;
+      if (identity && program.files.Identity(path) == identity) return true;
+    }
+  }
+  return false;
 }
 
 int TitleOf(ChooserMode mode) {
@@ -192,6 +210,11 @@ bool TakeFolder(Program& program, const std::string& folder) {
   }
   if (folder.size() > kTextFieldSize) {
     Refuse(program, LoadMessage(kPathTooLong, {Quoted(folder)}));
+    return false;
+  }
+
+  if (TakesSavegames(program.chooser.FolderChooserMode) && IsOwnFolder(program, folder)) {
+    Refuse(program, LoadMessage(kFolderIsOwn, {Quoted(folder)}));
     return false;
   }
 

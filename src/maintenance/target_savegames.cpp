@@ -70,7 +70,7 @@ bool KeepTargetSavegames(Program& program, const std::string& folder,
   if (!FileExists(program.files, folder + LoadMessage(309))) return false;
 
   const std::string quoted = Quoted(folder);
-  if (AskToKeep(program, LoadMessage(310, {quoted, kCarriageReturn, kCarriageReturn, quoted}))) {
+  if (AskWhich(program, LoadMessage(310, {quoted, kCarriageReturn, kCarriageReturn, quoted}))) {
     return true;
   }
   const WorkScope working(program);

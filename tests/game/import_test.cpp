@@ -131,6 +131,21 @@ TEST_F(ImportTest, AFailedCopyStaysInTheGameFolderAndIsNamed) {
   EXPECT_TRUE(Contains(report, "is still savegame.5"));
 }
 
+TEST_F(ImportTest, ANoteNeverBecomesThatOfAnotherSavegame) {
+  disk.Write("Game/note0.txt", "of slot 0\r\n");
+  disk.MakeReadOnly("Game/note0.txt");
+  ImportSavegames(program);
+  EXPECT_EQ(disk.Listed("Game"), "note3.txt|savegame.0|tomb4.exe|") << "a read-only one goes too";
+
+  disk.Write("Game/note0.txt", "of slot 0\r\n");
+  AddSavegame("Game", 4, "Tower", 40);
+  Rescan();
+  files.FailAlways("Delete", "note0.txt", FileError::kInUse);
+  ImportSavegames(program);
+  EXPECT_EQ(disk.Listed("Game"), "note0.txt|note3.txt|savegame.4|tomb4.exe|");
+  EXPECT_TRUE(Contains(boxes.shown.back().text, "is still savegame.4: the note or"));
+}
+
 TEST_F(ImportTest, ASlotWithANameThatStandsTwiceStaysAndIsNamed) {
   if (!testing::DiskTellsCaseApart()) GTEST_SKIP() << "no folder can hold such names";
   disk.Write("Game/SAVEGAME.2", "other");

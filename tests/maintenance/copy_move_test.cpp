@@ -112,7 +112,7 @@ TEST_F(CopyMoveTest, ACopyAsksAndReportsAndLeavesTheListAlone) {
   RunCommand(CopySelection, {0, 1}, "T:\\Target", {kNo});
   EXPECT_EQ(disk.Listed("Target"), "note3.txt|savegame.0|savegame.3|shot3.jpg|");
   ASSERT_EQ(boxes.shown.size(), 2U);
-  EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::kYesNo);
+  EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::kYesNoBothAct);
   EXPECT_EQ(boxes.shown[1].text, "Copied 2 savegames in \"T:\\Target\"");
   EXPECT_TRUE(sounds.played.back().ends_with("s6.wav"));
   EXPECT_FALSE(program.archive.ArchiveChanged);
@@ -134,18 +134,15 @@ TEST_F(CopyMoveTest, SavegamesOfTheTargetAreKeptOrDeletedAsTheUserSays) {
   EXPECT_EQ(boxes.shown[1].text,
             "In folder \"T:\\Target\" there are already any savegames.\rImport them in archive?\r"
             "(If you chose [NO] savegames in \"T:\\Target\" folder, will be delete)");
-  EXPECT_EQ(boxes.shown[1].buttons, BoxButtons::kYesNoToKeep);
+  EXPECT_EQ(boxes.shown[1].buttons, BoxButtons::kYesNoBothAct);
   EXPECT_EQ(Target("savegame.0"), "old");
   EXPECT_EQ(Target("savegame.1"), kThree) << "renumbered, whatever was said before";
 
   disk.Remove({"Target"});
   fill();
-  program.play.BackupFolder = "T:\\Target";
-  program.play.backed_up = {"savegame.0", "note0.txt"};
   RunCommand(CopySelection, {1}, "T:\\Target", {kNo, kNo});
   EXPECT_EQ(disk.Listed("Target"), "note0.txt|note3.txt|savegame.3|shot3.jpg|");
   EXPECT_EQ(boxes.shown.size(), 3U);
-  EXPECT_EQ(program.play.backed_up, (std::vector<std::string>{"note0.txt"}));
 }
 
 TEST_F(CopyMoveTest, DeletingTheTargetsSavegamesSparesTheSelectedOnes) {

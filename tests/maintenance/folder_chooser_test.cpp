@@ -192,6 +192,23 @@ TEST_F(FolderChooserTest, TheChosenFolderGoesWhereItIsWanted) {
   EXPECT_EQ(program.chooser.ChosenFolder, "T:");
 }
 
+TEST_F(FolderChooserTest, WhatVellumarkKeepsIsNoTarget) {
+  program.paths.ProgramFolder = "T:\\Program";
+  program.play.BackupFolder = "T:\\Program\\temp";
+  disk.MakeFolder("Program/temp/Inner");
+  disk.MakeFolder("Program/rescued/1");
+  for (const auto mode : {ChooserMode::kCopy, ChooserMode::kMove, ChooserMode::kNewArchiveFolder,
+                          ChooserMode::kExportShots}) {
+    Open(mode, "before");
+    for (const char* folder :
+         {"T:\\program\\TEMP", "T:\\Program\\temp\\Inner", "T:\\Program\\rescued\\1"}) {
+      boxes.shown.clear();
+      EXPECT_FALSE(TakeFolder(program, folder));
+      EXPECT_TRUE(Contains(boxes.AllTexts(), "cannot be chosen: Vellumark keeps")) << folder;
+    }
+  }
+}
+
 TEST_F(FolderChooserTest, AFolderThatHasVanishedIsNotTaken) {
   program.chooser.ChosenFolder = "T:\\Archive";
   disk.Remove({"Game"});

@@ -89,12 +89,18 @@ void QtServicesTest::MessageBoxesAnswerKeys() {
                {BoxButtons::kYesNo, Qt::Key_Escape, BoxAnswer::kNo},
                {BoxButtons::kOkCancel, Qt::Key_Return, BoxAnswer::kOk},
                {BoxButtons::kOkCancel, Qt::Key_Escape, BoxAnswer::kCancel},
-               {BoxButtons::kOk, Qt::Key_Escape, BoxAnswer::kOk}};
+               {BoxButtons::kOk, Qt::Key_Escape, BoxAnswer::kOk},
+               {BoxButtons::kYesNoFromNo, Qt::Key_Return, BoxAnswer::kNo},
+               {BoxButtons::kYesNoBothAct, Qt::Key_Y, BoxAnswer::kYes}};
   for (const auto& [buttons, key, answer] : cases) {
-    WithNext<QMessageBox>([key = key](QMessageBox* box) {
+    WithNext<QMessageBox>([key = key, buttons = buttons](QMessageBox* box) {
       QCOMPARE(box->windowTitle(), QStringLiteral("Vellumark"));
       QCOMPARE(box->icon(), QMessageBox::Warning);
-      QTest::keyClick(box, key);
+      if (buttons == BoxButtons::kYesNoBothAct) {
+        QTest::keyClick(box, Qt::Key_Escape);
+        QVERIFY(!box->close() && box->isVisible());
+      }
+      QTest::keyClick(box, key, key == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier);
     });
     QCOMPARE(QtMessageBoxes(world_.text).Show("text", buttons, BoxIcon::kExclamation), answer);
   }

@@ -61,9 +61,9 @@ int RenameToOtherCase(const NamePlace& place, const std::string& new_name) {
 
 // A file in the place of another has its owner, where that is allowed, and its permissions.
 void TakeOver(const std::string& file, const struct stat& from) {
-  const uid_t anyone = static_cast<uid_t>(-1);
+  constexpr auto kAnyone = static_cast<uid_t>(-1);
   if (chown(file.c_str(), from.st_uid, from.st_gid) != 0) {
-    static_cast<void>(chown(file.c_str(), anyone, from.st_gid) != 0);
+    static_cast<void>(chown(file.c_str(), kAnyone, from.st_gid) != 0);
   }
   chmod(file.c_str(), from.st_mode & 07777U);
 }

@@ -1,7 +1,9 @@
 #include "platform/qt/qt_message_boxes.h"
 
 #include <QAbstractButton>
+#include <QCloseEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -19,11 +21,35 @@ QMessageBox::StandardButtons ButtonsFor(BoxButtons buttons) {
       return QMessageBox::Ok | QMessageBox::Cancel;
     case BoxButtons::kYesNo:
     case BoxButtons::kYesNoFromNo:
-    case BoxButtons::kYesNoToKeep:
+    case BoxButtons::kYesNoBothAct:
       break;
   }
   return QMessageBox::Yes | QMessageBox::No;
 }
+
+// A box that may have no way out but its buttons.
+class Box final : public QMessageBox {
+ public:
+  Box(Icon icon, const QString& text, BoxButtons buttons, QWidget* parent)
+      : QMessageBox(icon, QStringLiteral("Vellumark"), text, ButtonsFor(buttons), parent),
+        only_buttons_(buttons == BoxButtons::kYesNoBothAct) {
+    if (only_buttons_) setWindowFlag(Qt::WindowCloseButtonHint, false);
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    if (only_buttons_) return event->ignore();
+    QMessageBox::closeEvent(event);
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (only_buttons_ && event->matches(QKeySequence::Cancel)) return;
+    QMessageBox::keyPressEvent(event);
+  }
+
+ private:
+  const bool only_buttons_;
+};
 
 QMessageBox::Icon IconFor(BoxIcon icon) {
   switch (icon) {
@@ -86,16 +112,17 @@ void QtMessageBoxes::ShowNames(const std::string& text, const std::vector<std::s
 }
 
 BoxAnswer QtMessageBoxes::ShowText(const QString& text, BoxButtons buttons, BoxIcon icon) {
-  QMessageBox box(IconFor(icon), QStringLiteral("Vellumark"), text, ButtonsFor(buttons),
-                  ModalOpener());
+  Box box(IconFor(icon), text, buttons, ModalOpener());
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   SetLongText(box, box.text());
-  const bool keeps = buttons == BoxButtons::kYesNoToKeep;
-  const bool from_no = buttons == BoxButtons::kYesNoFromNo;
-  const bool asks = keeps || from_no || buttons == BoxButtons::kYesNo;
-  box.setDefaultButton(from_no ? QMessageBox::No : asks ? QMessageBox::Yes : QMessageBox::Ok);
-  if (asks) box.setEscapeButton(keeps ? QMessageBox::Yes : QMessageBox::No);
+  if (buttons == BoxButtons::kYesNoFromNo) {
+    box.setDefaultButton(QMessageBox::No);
+  } else {
+    box.setDefaultButton(box.button(QMessageBox::Yes) != nullptr ? QMessageBox::Yes
+                                                                 : QMessageBox::Ok);
+  }
+  if (box.button(QMessageBox::No) != nullptr) box.setEscapeButton(QMessageBox::No);
 
   switch (box.exec()) {
     case QMessageBox::Yes:
