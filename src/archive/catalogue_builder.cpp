@@ -166,7 +166,7 @@ class Builder {
     const std::string lower_main = Lowered(main_folder);
     std::vector<FolderJob> jobs;
     for (const FolderEntry& entry : main->Contents().entries) {
-      if (!entry.folder || entry.name.starts_with('.')) continue;
+      if (!entry.folder || entry.name.starts_with('.') || IsTemporaryName(entry.name)) continue;
       const std::string folder = InFolder(main_folder, entry.name);
       if (entry.ambiguous) {
         jobs.push_back({.folder = folder, .ambiguous = true});

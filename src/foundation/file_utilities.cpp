@@ -127,6 +127,12 @@ std::string TemporaryNameFor(const std::string& path) {
       .append(name.substr(std::min(replaced, name.size())));
 }
 
+std::string TemporaryFolderFor(const std::string& path) {
+  return path.substr(0, path.size() - FileNameOf(path).size())
+      .append(kTemporaryPrefix)
+      .append(FileNameOf(path));
+}
+
 bool IsTemporaryName(std::string_view name) {
   return EqualsIgnoringAsciiCase(name.substr(0, kTemporaryPrefix.size()), kTemporaryPrefix);
 }

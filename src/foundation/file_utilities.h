@@ -40,7 +40,9 @@ FileError ReplaceFile(FileSystem& files, const std::string& path, std::string_vi
 
 // The temporary name under which a new content of `path` is prepared, in the same folder.
 std::string TemporaryNameFor(const std::string& path);
-// True for a file name that TemporaryNameFor makes: a leftover of a run that was cut off.
+// The same for a new folder. Different folders never share one.
+std::string TemporaryFolderFor(const std::string& path);
+// True for a name that these make: a leftover of a run that was cut off.
 bool IsTemporaryName(std::string_view name);
 
 // Opens a document with the system's program for it, or starts a program, without waiting.

@@ -223,29 +223,41 @@ constexpr TableMessage kOwnMessages[] = {
     {kReorderStopped,
      "The new sub-folder ~1 could not be created: ~2.~3Reordering has stopped. Nothing has been "
      "deleted, and the old archive is still in use."},
-    {kReorderMadeSoFar,
-     "~1 savegames were copied before in ~2 new sub-folders, the first is ~3\r\nThese copies are "
-     "not needed: you can delete them."},
+    {kReorderLeft,
+     "These sub-folders hold copies that are not needed. They could not be deleted, you can do "
+     "it:"},
+    {kReorderNamesTaken,
+     "Nothing has been copied: the new archive needs these names, and they exist already. Please "
+     "choose another sub-folder name, or move what has them:"},
+    {kReorderNoRoom,
+     "The new archive needs ~1 MB, but the disk has only room for ~2 MB.~3Do you want to reorder "
+     "all the same?"},
+    {kReorderUseAllTheSame,
+     "Warning: not everything is safe in the new archive. Do you want to use it all the "
+     "same?~1With "
+     "No the new archive is removed and the old one stays in use. Nothing of the old archive is "
+     "deleted, whatever you choose."},
     {kReorderNotCopied,
-     "Warning: not everything could be copied. These files are not in the new archive, but still "
-     "in the old one:"},
-    {kReorderNotFlushed, "Warning: the disk did not confirm that the new archive is safe: ~1."},
+     "These files are not in the new archive, nor are note and screen-shot of a savegame that is "
+     "among them:"},
+    {kReorderNotFlushed, "The disk did not confirm that the new archive is safe: ~1."},
+    {kReorderNotWhole, "Warning: not everything is safe in the new archive."},
     {kReorderOldKept, "Therefore nothing has been deleted from the old archive in ~1"},
     {kReorderFoldersKept,
-     "Warning: these sub-folders of the old archive could not be deleted. What they hold is still "
-     "there:"},
+     "Warning: this could not be deleted from the old archive and is still there:"},
     {kReorderSetAside,
-     "In sub-folders of the old archive there were files that belong to no savegame, or notes and "
-     "screen-shots of equal savegames that were left out. They have been moved, and nothing of "
-     "them was lost. They are now in:"},
+     "In sub-folders of the old archive there were files that belong to no savegame, or that "
+     "were left out as equal but hold something else. They have been moved, and nothing of them "
+     "was lost. They are now in ~1 with a list of where they came from."},
     {kReorderNotListed, "These lists of savegames could not be written:"},
     {kExportNotCopied, "Warning: these screen-shots could not be copied:"},
     {kOldFolderNeeded, "it is also used for something else, or its name exists twice"},
     {kOldHoldsUnusable, "it holds a name that savegame archives cannot hold"},
-    {kOldHoldsSavegame, "~1 is not in the new archive, or has changed meanwhile"},
-    {kOldHoldsOther, "it holds ~1, which is no ordinary file"},
-    {kOldNotMoved, "~1 could not be moved out of it: ~2"},
-    {kOldNotDeleted, "~1 could not be deleted: ~2"},
+    {kOldNotInNew, "this savegame is not in the new archive, or has changed meanwhile"},
+    {kOldIsFolder, "it is a folder"},
+    {kOldIsNoFile, "it is no ordinary file"},
+    {kOldNotMoved, "it could not be set aside: ~1"},
+    {kOldNotDeleted, "it could not be deleted: ~1"},
 
     {kNotAllCopied,
      "Warning: not everything could be put in folder ~1. These files could not be copied, and "

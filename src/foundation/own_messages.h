@@ -133,20 +133,25 @@ enum OwnMessage : int {
   kReorderInBackup,        // ~1 folder
   kReorderInOldArchive,    // ~1 folder, ~2 old sub-folder
   kReorderStopped,         // ~1 folder, ~2 reason, ~3 line break
-  kReorderMadeSoFar,       // ~1 savegames, ~2 sub-folders, ~3 first sub-folder
+  kReorderLeft,            // followed by folders
+  kReorderNamesTaken,      // followed by folders
+  kReorderNoRoom,          // ~1 and ~2 megabytes, ~3 line break; question
+  kReorderUseAllTheSame,   // ~1 line break; question
   kReorderNotCopied,       // followed by failure lines
   kReorderNotFlushed,      // ~1 reason
+  kReorderNotWhole,        // no values
   kReorderOldKept,         // ~1 old main folder
   kReorderFoldersKept,     // followed by failure lines
-  kReorderSetAside,        // followed by folders
+  kReorderSetAside,        // ~1 folder
   kReorderNotListed,       // followed by failure lines
   kExportNotCopied,        // followed by failure lines
   kOldFolderNeeded,        // reason
   kOldHoldsUnusable,       // reason
-  kOldHoldsSavegame,       // reason, ~1 file
-  kOldHoldsOther,          // reason, ~1 name
-  kOldNotMoved,            // reason, ~1 file, ~2 reason
-  kOldNotDeleted,          // reason, ~1 file, ~2 reason
+  kOldNotInNew,            // reason
+  kOldIsFolder,            // reason
+  kOldIsNoFile,            // reason
+  kOldNotMoved,            // reason, ~1 reason
+  kOldNotDeleted,          // reason, ~1 reason
 
   // Copy, move and delete
   kNotAllCopied,      // ~1 folder; followed by failure lines

@@ -1,129 +1,171 @@
 #include "maintenance/reorder.h"
 
+#include "archive/archive_file.h"
 #include "archive/scan.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
+#include "foundation/report.h"
+#include "foundation/rescue.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "foundation/working.h"
 #include "maintenance/old_archive.h"
-#include "maintenance/reorder_deletion.h"
-#include "maintenance/reorder_order.h"
 #include "program.h"
 
 namespace vellumark {
 namespace {
 
-// What a run has done.
-struct Run {
-  std::string old_main_folder;
-  bool re_sorted = false;
-  NewArchive made;
-  FileError flush = FileError::kNone;
-  OldArchive old;
-  bool kept_old = false;  // its deletion was asked for, but something was not safe
-  Deletion deletion;
-};
-
-CounterOrder OrderOf(const Catalogue& catalogue) {
-  std::vector<std::int16_t> counters;
-  counters.reserve(catalogue.entries.size());
-  for (const SavegameEntry& entry : catalogue.entries) counters.push_back(entry.InternalCounter);
-  return SortByCounter(counters);
-}
-
-Run DoRun(Program& program, const ReorderSettings& settings, const ReorderTarget& target,
-          const ShowPercent& show) {
-  const WorkScope working(program);
-  Run run;
-  run.old_main_folder = Trimmed(program.archive.settings.MainFolder);
-  // Looked up before new sub-folders are made, whose names may go on where the old ones end.
-  if (settings.DeleteOldArchive) run.old = FindOldArchive(program);
-
-  const CounterOrder order = OrderOf(program.catalogue);
-  run.re_sorted = order.re_sorted;
-  run.made = CopyInOrder(program, settings, target, order.indices, show);
-  if (run.made.stopped) return run;
-
-  if (!run.made.written.empty()) run.flush = program.files.Flush(run.made.written);
-  if (!settings.DeleteOldArchive) return run;
-  run.kept_old = run.flush != FileError::kNone || !run.made.not_copied.empty() ||
-                 run.old.error != FileError::kNone;
-  if (!run.kept_old) run.deletion = DeleteOldArchive(program, run.old, run.made, show);
-  return run;
-}
-
-void TellStopped(Program& program, const NewArchive& made) {
-  std::string text = LoadMessage(
-      kReorderStopped, {Quoted(made.stopped->path), ReasonFor(made.stopped->why), kLineBreak});
-  if (!made.folders.empty()) {
-    text += std::string(kLineBreak) + kLineBreak +
-            LoadMessage(kReorderMadeSoFar, {made.copied, static_cast<int>(made.folders.size()),
-                                            Quoted(made.folders.front())});
-    if (!made.not_copied.empty()) {
-      text += std::string(kLineBreak) + kLineBreak + LoadMessage(kReorderNotCopied) +
-              DescribeFailures(made.not_copied);
-    }
-  }
-  PlaySoundEffect(program, SoundEffect::kRefusal);
-  Tell(program, text, BoxIcon::kCritical);
-}
-
-void Report(Program& program, const ReorderTarget& target, const Run& run) {
-  const auto line = [](const std::string& value) { return value + kCarriageReturn; };
-  std::string text = LoadMessage(
-      198, {line(Quoted(target.main_folder)), line(Quoted(target.base_name)),
-            line(std::to_string(run.made.copied)), line(std::to_string(run.made.folders.size()))});
-  text += line(std::to_string(run.made.equals)) + LoadMessage(run.re_sorted ? 196 : 197);
-  Tell(program, text);
-}
-
-void UseNewArchive(Program& program, const ReorderTarget& target, std::int16_t max_slot) {
-  ArchiveSettings& settings = program.archive.settings;
-  settings.MainFolder = target.main_folder;
-  settings.SubfolderBaseName = target.base_name;
-  settings.MaxSavegame = max_slot;
-  program.archive.ArchiveChanged = true;
-  ScanArchive(program);
-}
-
-std::string DescribeKept(const std::vector<KeptFolder>& folders) {
+std::string Lines(const std::vector<std::string>& paths) {
   std::string text;
-  for (const KeptFolder& folder : folders) {
-    text += kLineBreak + LoadMessage(kFailureLine, {folder.reason, Quoted(folder.path)});
-  }
+  for (const std::string& path : paths) text += kLineBreak + Quoted(path);
   return text;
 }
 
-void ReportProblems(Program& program, const Run& run) {
-  std::string text;
-  const auto add = [&text](const std::string& paragraph) {
-    if (!text.empty()) text += std::string(kLineBreak) + kLineBreak;
-    text += paragraph;
-  };
-  const NewArchive& made = run.made;
-  if (!made.not_copied.empty()) {
-    add(LoadMessage(kReorderNotCopied) + DescribeFailures(made.not_copied));
+class ReorderRun {
+ public:
+  ReorderRun(Program& program, const ReorderSettings& settings, const ReorderTarget& target,
+             const ShowPercent& show)
+      : program_(program),
+        settings_(settings),
+        target_(target),
+        show_(show),
+        plan_(PlanReorder(program.catalogue, settings)),
+        made_(program, target, plan_),
+        old_main_folder_(Trimmed(program.archive.settings.MainFolder)),
+        rescue_(program) {}
+
+  // The order that protects the player. Up to GiveNames everything can be taken back; nothing of
+  // the old archive goes before the new one is whole, named, flushed and written down.
+  bool Do() {
+    const WorkScope working(program_);
+    if (settings_.DeleteOldArchive) old_ = FindOldArchive(program_);
+    if (!CanBegin()) return false;
+    made_.Copy(settings_.DeleteOldArchive, show_);
+    if (made_.stopped || !MayUse() || !made_.GiveNames()) return TakeBack();
+    if (settings_.CreateInfoFiles) not_listed_ = made_.WriteInfoFiles();
+    UseNewArchive();
+    if (settings_.DeleteOldArchive) DeleteOld();
+    TellResult();
+    ScanArchive(program_);
+    ReportProblems();
+    return true;
   }
-  if (run.flush != FileError::kNone) add(LoadMessage(kReorderNotFlushed, {ReasonFor(run.flush)}));
-  if (run.old.error != FileError::kNone) {
-    add(LoadMessage(kFolderNotOpened, {Quoted(run.old_main_folder), ReasonFor(run.old.error)}));
+
+ private:
+  bool CanBegin() {
+    const std::uint64_t needed = made_.FindSources();
+    made_.RemoveLeftovers();
+    if (const auto taken = made_.TakenNames(); !taken.empty()) {
+      Refuse(LoadMessage(kReorderNamesTaken) + Lines(taken));
+      return false;
+    }
+    const auto room = program_.files.FreeRoom(target_.main_folder);
+    if (!room || *room >= needed) return true;
+    const auto megabytes = [](std::uint64_t bytes) { return std::to_string((bytes >> 20U) + 1); };
+    return AskFromNo(
+        program_, LoadMessage(kReorderNoRoom, {megabytes(needed), megabytes(*room), kLineBreak}));
   }
-  if (run.kept_old) add(LoadMessage(kReorderOldKept, {Quoted(run.old_main_folder)}));
-  if (!run.deletion.kept.empty()) {
-    add(LoadMessage(kReorderFoldersKept) + DescribeKept(run.deletion.kept));
+
+  bool MayUse() {
+    if (made_.IsWhole()) return true;
+    std::string question = LoadMessage(kReorderUseAllTheSame, {kLineBreak});
+    if (made_.flush != FileError::kNone) {
+      question += kLineBreak + LoadMessage(kReorderNotFlushed, {ReasonFor(made_.flush)});
+    }
+    if (!made_.not_copied.empty()) {
+      question += kLineBreak + LoadMessage(kReorderNotCopied) + DescribeFailures(made_.not_copied);
+    }
+    return AskFromNo(program_, question);
   }
-  if (!run.deletion.set_aside.empty()) {
-    std::string folders;
-    for (const std::string& folder : run.deletion.set_aside) folders += kLineBreak + Quoted(folder);
-    add(LoadMessage(kReorderSetAside) + folders);
+
+  bool TakeBack() {
+    const std::vector<std::string> left = made_.TakeBack();
+    Report report;
+    if (made_.stopped) {
+      report.Add(LoadMessage(kReorderStopped, {Quoted(made_.stopped->path),
+                                               ReasonFor(made_.stopped->why), kLineBreak}));
+    }
+    if (!left.empty()) report.Add(LoadMessage(kReorderLeft) + Lines(left));
+    if (!report.text().empty()) Refuse(report.text());
+    return false;
   }
-  if (!made.not_listed.empty()) {
-    add(LoadMessage(kReorderNotListed) + DescribeFailures(made.not_listed));
+
+  void Refuse(const std::string& text) {
+    PlaySoundEffect(program_, SoundEffect::kRefusal);
+    Tell(program_, text, BoxIcon::kCritical);
   }
-  if (!text.empty()) Tell(program, text, BoxIcon::kExclamation);
-}
+
+  void UseNewArchive() {
+    ArchiveSettings& settings = program_.archive.settings;
+    settings.MainFolder = target_.main_folder;
+    settings.SubfolderBaseName = target_.base_name;
+    settings.MaxSavegame = settings_.MaxSlot;
+    settings.SavegameCount = plan_.copied;
+    program_.archive.ArchiveChanged = true;
+  }
+
+  void DeleteOld() {
+    const std::string file = Trimmed(program_.preferences.LastArchive);
+    if (!made_.IsWhole()) {
+      why_kept_ = LoadMessage(kReorderNotWhole);
+    } else if (old_.error != FileError::kNone) {
+      why_kept_ = LoadMessage(kFolderNotOpened, {Quoted(old_main_folder_), ReasonFor(old_.error)});
+    } else if (const FileError error = WriteDown(file); error != FileError::kNone) {
+      why_kept_ = LoadMessage(kArchiveNotWritten, {Quoted(file), ReasonFor(error)});
+    } else {
+      kept_ = DeleteOldArchive(program_, old_, made_, rescue_, show_);
+    }
+  }
+
+  // An archive that has no file yet leads nobody to the old sub-folders.
+  FileError WriteDown(const std::string& file) {
+    return file.empty() ? FileError::kNone : WriteArchiveFile(program_, file);
+  }
+
+  void TellResult() {
+    const auto line = [](const std::string& value) { return value + kCarriageReturn; };
+    std::string text =
+        LoadMessage(198, {line(Quoted(target_.main_folder)), line(Quoted(target_.base_name)),
+                          line(std::to_string(plan_.copied)), line(std::to_string(plan_.folders))});
+    text += line(std::to_string(plan_.equals)) + LoadMessage(plan_.re_sorted ? 196 : 197);
+    Tell(program_, text);
+  }
+
+  void ReportProblems() {
+    Report report;
+    if (!why_kept_.empty()) {
+      report.Add(why_kept_ + kLineBreak + LoadMessage(kReorderOldKept, {Quoted(old_main_folder_)}));
+    }
+    if (!kept_.empty()) {
+      std::string lines;
+      for (const KeptItem& item : kept_) {
+        lines += kLineBreak + LoadMessage(kFailureLine, {item.reason, Quoted(item.path)});
+      }
+      report.Add(LoadMessage(kReorderFoldersKept) + lines);
+    }
+    if (!rescue_.folder().empty()) {
+      report.Add(LoadMessage(kReorderSetAside, {Quoted(rescue_.folder())}));
+    }
+    if (!not_listed_.empty()) {
+      report.Add(LoadMessage(kReorderNotListed) + DescribeFailures(not_listed_));
+    }
+    report.Show(program_);
+  }
+
+  Program& program_;
+  const ReorderSettings& settings_;
+  const ReorderTarget& target_;
+  const ShowPercent& show_;
+  const ReorderPlan plan_;
+  NewArchive made_;
+  const std::string old_main_folder_;
+  OldArchive old_;
+  Rescue rescue_;
+  std::vector<KeptItem> kept_;
+  std::string why_kept_;  // why the old archive, whose deletion was asked for, is still there
+  std::vector<Failure> not_listed_;
+};
 
 }  // namespace
 
@@ -132,15 +174,7 @@ bool ReorderArchive(Program& program, const ReorderSettings& settings, const Sho
   if (!target) return false;
 
   if (program.catalogue.EntryCount() == 0) ScanArchive(program);
-  const Run run = DoRun(program, settings, *target, show);
-  if (run.made.stopped) {
-    TellStopped(program, run.made);
-    return false;
-  }
-  Report(program, *target, run);
-  UseNewArchive(program, *target, settings.MaxSlot);
-  ReportProblems(program, run);
-  return true;
+  return ReorderRun(program, settings, *target, show).Do();
 }
 
 }  // namespace vellumark

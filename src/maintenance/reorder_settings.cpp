@@ -61,13 +61,14 @@ bool LiesIn(FileSystem& files, std::string folder, const std::optional<FileIdent
 // Why no sub-folder can have this name; empty when one can.
 std::string NameProblem(Program& program, const ReorderTarget& target, int max_slot) {
   const std::string& name = target.base_name;
-  if (name.find_first_of("/:*?\"<>|") != std::string::npos) {
+  if (name.find_first_of("/\\:*?\"<>|") != std::string::npos || IsTemporaryName(name)) {
     return LoadMessage(kBaseNameNotPossible);
   }
   // The archive file holds names without the blanks around them.
   if (name != Trimmed(name)) return LoadMessage(kReorderNameBlanks);
-  const std::string longest = InFolder(target.Subfolder(static_cast<int>(Catalogue::kMostEntries)),
-                                       SavegameFileName(max_slot));
+  const std::string longest =
+      InFolder(target.TemporarySubfolder(static_cast<int>(Catalogue::kMostEntries)),
+               SavegameFileName(max_slot));
   if (longest.size() > kTextFieldSize) return LoadMessage(kPathTooLong, {Quoted(longest)});
 
   const auto game = program.files.Identity(Trimmed(program.archive.settings.GameFolder));
@@ -112,6 +113,10 @@ std::string ProblemOf(Program& program, const ReorderSettings& settings,
 
 std::string ReorderTarget::Subfolder(int number) const {
   return InFolder(main_folder, base_name) + std::to_string(number);
+}
+
+std::string ReorderTarget::TemporarySubfolder(int number) const {
+  return TemporaryFolderFor(Subfolder(number));
 }
 
 ReorderSettings PrepareReorder(Program& program) {

@@ -39,6 +39,8 @@ struct ReorderTarget {
   std::string base_name;
 
   std::string Subfolder(int number) const;
+  // Its name until it is whole.
+  std::string TemporarySubfolder(int number) const;
 };
 
 // Checks one setting after the other. Empty, after telling the user about the first that cannot

@@ -56,6 +56,7 @@ struct FileAttributes {
 struct AttributesResult {
   FileError error = FileError::kNone;
   FileAttributes attributes;  // meaningful when error is kNone
+  std::uint64_t size = 0;     // of a file, in bytes; 0 for anything else
 };
 
 // One name in a folder.
@@ -165,6 +166,10 @@ class FileSystem {
 
   // Empty when nothing of that name exists or it cannot be told.
   virtual std::optional<FileIdentity> Identity(const std::string& path) = 0;
+
+  // The bytes that new files in this folder can take at that moment; empty when that cannot be
+  // told.
+  virtual std::optional<std::uint64_t> FreeRoom(const std::string& folder) = 0;
 
   // Where the file lies that a path leads to: another path when its name is a link that is
   // followed, `path` itself otherwise or when a path cannot express it.

@@ -23,6 +23,10 @@ struct InfoResult {
 InfoResult WriteInfoSection(Program& program, const std::string& folder,
                             const std::string& info_file, InfoMode mode);
 
+// True when an info file holds the folder's section as it is now, for any highest slot number, and
+// nothing else: nobody would miss it.
+bool HoldsInfoSection(Program& program, const std::string& folder, const std::string& info_file);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_SAVEGAMES_INFO_FILE_H_

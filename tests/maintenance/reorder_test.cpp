@@ -6,8 +6,10 @@
 #include <random>
 #include <set>
 
-#include "maintenance/reorder_order.h"
+#include "archive/archive_file.h"
+#include "archive/scan.h"
 #include "maintenance/reorder_plan.h"
+#include "savegames/info_file.h"
 #include "support/every_call.h"
 #include "support/open_world.h"
 
@@ -107,11 +109,11 @@ class ReorderTest : public ::testing::Test, public testing::OpenWorld {
 
 TEST_F(ReorderTest, StopsWhenTheSessionEndsAndKeepsTheOldArchiveInUse) {
   settings.DeleteOldArchive = true;
-  const Files before = disk.AllFiles("Archive");
+  const Files before = disk.AllFiles();
   EXPECT_FALSE(ReorderArchive(program, settings, [this](int percent) {
     if (percent > 20) windows.ends_after_painting = 0;
   }));
-  EXPECT_EQ(disk.AllFiles("Archive"), before);
+  EXPECT_EQ(disk.AllFiles(), before);
   EXPECT_EQ(program.archive.settings.MainFolder, "T:\\Archive");
   EXPECT_EQ(boxes.AllTexts(), "");
 }
@@ -134,7 +136,7 @@ TEST_F(ReorderTest, CopiesSortedByCounterAndMakesTheNewArchiveTheCurrentOne) {
             "Created new archive in \"T:\\New\"\rSubfolders name = \"Part\"\rSavegames = 5\r"
             "Subfolders = 1\rEqual savegames erased = 0\rSome savegames were been re-sorted\n");
   EXPECT_EQ(boxes.shown[0].icon, BoxIcon::kNone);
-  const ArchiveSettings expected{"Part", "T:\\New", "T:\\Game", "T:\\Game\\tomb4.exe", 9, 0};
+  const ArchiveSettings expected{"Part", "T:\\New", "T:\\Game", "T:\\Game\\tomb4.exe", 9, 5};
   EXPECT_EQ(program.archive.settings, expected);
   EXPECT_TRUE(program.archive.ArchiveChanged);
   EXPECT_EQ(program.catalogue.EntryCount(), 6);
@@ -201,77 +203,120 @@ TEST_F(ReorderTest, AGameSavegameNeverCostsTheArchivedOne) {
   EXPECT_FALSE(disk.Exists("Archive/Slot1"));
 }
 
-TEST_F(ReorderTest, AFailedCopyCostsNeitherItsEqualNorTheOldArchive) {
+TEST_F(ReorderTest, AnArchiveThatIsNotWholeIsUsedOnlyWhenTheUserWantsIt) {
   AddSavegame("Archive/Slot2", 5, "Maze", 7);
+  disk.Write("Archive/Slot1/note0.txt", "of the tower\r\n");
+  disk.MakeFolder("Archive/Slot1/note4.txt");
   Rescan();
   settings.RemoveEquals = true;
   settings.DeleteOldArchive = true;
   const Files before = disk.AllFiles();
-  files.FailAlways("Copy", "Slot1\\savegame.4", FileError::kDiskFull);
-  ASSERT_TRUE(Reorder());
-  EXPECT_TRUE(Contains(boxes.shown[0].text, "Savegames = 6\r"));
-  std::set<std::string> arrived;
-  for (const auto& [name, bytes] : disk.AllFiles()) {
-    if (name.starts_with("New/")) arrived.insert(bytes);
-  }
-  EXPECT_TRUE(arrived.contains(SavegameBytes("Maze", 7, 5)));
+  const ArchiveSettings old_settings = program.archive.settings;
+  files.FailAlways("Copy", "Slot1\\savegame.0", FileError::kDiskFull);
+  EXPECT_FALSE(Reorder()) << "the question begins on No";
+  EXPECT_EQ(disk.AllFiles(), before);
+  EXPECT_EQ(disk.Listed("New"), "");
+  EXPECT_EQ(program.archive.settings, old_settings);
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "\\Slot1\\savegame.0\": the disk is full"));
+
+  Forget();
+  boxes.answers = {BoxAnswer::kYes};
+  ASSERT_TRUE(Reorder()) << "a retry under the same name";
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "Savegames = 5\r"));
   ExpectUntouched(before, disk);
-  const std::string& report = boxes.shown.back().text;
-  EXPECT_TRUE(Contains(report, "\\Slot1\\savegame.4\": the disk is full"));
-  EXPECT_TRUE(Contains(report, "nothing has been deleted from the old archive in \"T:\\Archive\""));
+  EXPECT_EQ(disk.Listed("New/Part1"),
+            "note2.txt|savegame.0|savegame.1|savegame.2|savegame.3|shot3.jpg|")
+      << "nothing of the tower";
+  EXPECT_TRUE(Contains(boxes.shown.back().text,
+                       "nothing has been deleted from the old archive in \"T:\\Archive\""));
+
+  // An equal savegame takes the place of one that does not arrive.
+  settings.FolderName = "Again";
+  AddSavegame("New/Part1", 5, "Maze", 7);
+  Rescan();
+  files.FailAlways("Copy", "Part1\\savegame.3", FileError::kDiskFull);
+  boxes.answers = {BoxAnswer::kYes};
+  ASSERT_TRUE(Reorder());
+  EXPECT_EQ(disk.Read("New/Again1/savegame.3"), SavegameBytes("Maze", 7, 5));
+  EXPECT_FALSE(disk.Exists("New/Again1/shot3.jpg")) << "it has none";
 }
 
 TEST_F(ReorderTest, ANoteThatCannotBeLookedUpIsNamedAsNotCopied) {
-  disk.Write("Archive/Slot1/note4.txt", "mine\r\n");
   files.FailAlways("Attributes", "Slot1\\note4.txt", FileError::kInputOutput);
-  ASSERT_TRUE(Reorder());
+  EXPECT_FALSE(Reorder());
   EXPECT_TRUE(Contains(boxes.shown.back().text, "\\Slot1\\note4.txt\": "));
 }
 
-TEST_F(ReorderTest, DeletesTheOldArchiveWhenEverythingIsSafe) {
+TEST_F(ReorderTest, DeletesTheOldArchiveWhenEverythingIsSafeAndWrittenDown) {
   disk.Write("Archive/Slot2/readme.txt", "mine");
   disk.Write("Archive/Slot1/note9.txt", "of no savegame");
+  WriteInfoSection(program, "T:\\Archive\\Slot1", "T:\\Archive\\Slot1\\info.txt",
+                   InfoMode::kCreate);
   disk.MakeFolder("Archive/Slot4");
   settings.DeleteOldArchive = true;
+  WriteArchiveFile();
+  program.preferences.LastArchive = "T:\\Archive.vmk";
   const Files before = disk.AllFiles();
+  files.FailAlways("Rename", "~vm~ive.vmk", FileError::kAccessDenied);
   ASSERT_TRUE(Reorder());
+  ExpectUntouched(before, disk);
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "nothing has been deleted"));
+
+  files.Reset();
+  disk.Remove({"New"});
+  Prepare();
+  disk.Write("Archive/Slot2/info.txt", "my own list\r\n");
+  bool written_down = true;
+  files.meanwhile = [&](const std::string& operation) {
+    const bool names_new = Contains(disk.Read("Archive.vmk"), "T:\\New");
+    written_down = written_down && (operation != "Delete" || names_new);
+  };
+  ASSERT_TRUE(Reorder());
+  EXPECT_TRUE(written_down);
   EXPECT_EQ(disk.Listed("Archive"), "Slot4|info.txt|");
   EXPECT_EQ(disk.Read("Game/savegame.0"), before.at("Game/savegame.0"));
   EXPECT_EQ(NewSavegames().size(), 5U);
-  EXPECT_EQ(shown, (std::vector<int>{8, 16, 25, 34, 42, 50, 75, 100}));
-  EXPECT_EQ(disk.Read("Program/rescued/1/note9.txt"), "of no savegame");
-  EXPECT_EQ(disk.Read("Program/rescued/2/readme.txt"), "mine");
+  EXPECT_EQ(shown.back(), 100);
+  EXPECT_EQ(disk.Listed("Program/rescued"), "1|") << "one folder for the whole run";
+  EXPECT_EQ(disk.Read("Program/rescued/1/Slot1/note9.txt"), "of no savegame");
+  EXPECT_EQ(disk.Read("Program/rescued/1/Slot2/readme.txt"), "mine");
+  EXPECT_EQ(disk.Read("Program/rescued/1/Slot2/info.txt"), "my own list\r\n");
+  EXPECT_FALSE(disk.Exists("Program/rescued/1/Slot1/info.txt")) << "the program wrote it";
+  EXPECT_TRUE(Contains(disk.Read("Program/rescued/1/rescued.txt"),
+                       "\r\nSlot2\\readme.txt <- T:\\Archive\\Slot2\\readme.txt\r\n"));
   ASSERT_EQ(boxes.shown.size(), 2U);
-  EXPECT_TRUE(Contains(boxes.shown[1].text, "\"T:\\Program\\rescued\\2\""));
+  EXPECT_TRUE(Contains(boxes.shown[1].text, "\"T:\\Program\\rescued\\1\" with a list"));
 }
 
-TEST_F(ReorderTest, AnOldSubfolderWithAnythingNotCopiedStaysWholeAndIsNamed) {
-  const std::pair<const char*, std::function<void()>> cases[] = {
-      {"savegame.16", [this] { AddSavegame("Archive/Slot2", 16, "Maze", 40); }},
-      {"savegame.8", [this] { AddSavegame("Archive/Slot2", 8, "Maze", 40); }},
-      {"savegame.2", [this] { disk.Write("Archive/Slot2/savegame.2", "changed"); }},
-      {"note0.txt", [this] { disk.Write("Archive/Slot2/note0.txt", "new note\r\n"); }},
-      {"Inner", [this] { disk.MakeFolder("Archive/Slot2/Inner"); }},
-      {"SAVEGAME.0", [this] { disk.Write("Archive/Slot2/SAVEGAME.0", "twice"); }},
-      {"archives cannot hold", [this] { disk.Write("Archive/Slot2/\xD0\x96", "x"); }}};
+TEST_F(ReorderTest, WhatIsNotInTheNewArchiveStaysByItselfAndIsNamed) {
+  const std::pair<std::string, std::function<void()>> cases[] = {
+      {"savegame.16\": this", [this] { AddSavegame("Archive/Slot2", 16, "Maze", 40); }},
+      {"savegame.8\": this", [this] { AddSavegame("Archive/Slot2", 8, "Maze", 40); }},
+      {"savegame.2\": this", [this] { disk.Write("Archive/Slot2/savegame.2", "changed"); }},
+      {"savegame.0\": this", [this] { disk.Write("Archive/Slot2/note0.txt", "new note\r\n"); }},
+      {"Inner\": it is a folder", [this] { disk.Write("Archive/Slot2/Inner/deep", "x"); }},
+      {"SAVEGAME.0\": the name", [this] { disk.Write("Archive/Slot2/SAVEGAME.0", "twice"); }},
+      {"Slot2\": it holds a name", [this] { disk.Write("Archive/Slot2/\xD0\x96", "x"); }}};
   settings.DeleteOldArchive = true;
   for (const auto& [named, change] : cases) {
     // Such a name would only be the savegame's again.
-    if (!testing::DiskTellsCaseApart() && named == std::string("SAVEGAME.0")) continue;
+    if (!testing::DiskTellsCaseApart() && named.starts_with("SAVEGAME.0")) continue;
     bool changed = false;
+    Files before;
     files.meanwhile = [&, act = &change](const std::string& operation) {
       if (operation != "Flush" || changed) return;
       changed = true;
       (*act)();
+      before = disk.AllFiles();
     };
     ASSERT_TRUE(Reorder());
     files.meanwhile = nullptr;
     EXPECT_TRUE(changed);
+    ExpectNothingLost(before, disk);
     EXPECT_FALSE(disk.Exists("Archive/Slot1")) << named;
-    EXPECT_GE(disk.Names("Archive/Slot2").size(), 3U) << named;
-    const std::string& report = boxes.shown.back().text;
-    EXPECT_TRUE(Contains(report, "\"T:\\Archive\\Slot2\": "));
-    EXPECT_TRUE(Contains(report, named));
+    EXPECT_LE(disk.Names("Archive/Slot2").size(), 2U) << named;
+    EXPECT_TRUE(Contains(boxes.shown.back().text, named));
 
     disk.Remove({"New", "Archive"});
     Prepare();
@@ -294,21 +339,28 @@ TEST_F(ReorderTest, ADroppedSavegameThatHasChangedStays) {
 }
 
 TEST_F(ReorderTest, WhatOnlyADroppedSavegameHasIsSetAside) {
-  AddSavegame("Archive/Slot3", 0, "Maze", 3);
-  disk.Write("Archive/Slot3/note0.txt", "another note\r\n");
-  for (const char* shot : {"Slot1/shot1.jpg", "Slot3/shot0.jpg"}) {
+  AddSavegame("Archive/Slot3", 1, "Maze", 3);  // byte for byte as in Slot1
+  AddSavegame("Archive/Slot3", 4, "Tower", 3);
+  disk.Write("Archive/Slot3/note1.txt", "another note\r\n");
+  for (const char* shot :
+       {"Slot1/shot1.jpg", "Slot3/shot1.jpg", "Slot2/shot0.jpg", "Slot3/shot4.jpg"}) {
     disk.Write(std::string("Archive/") + shot, "the same picture");
   }
   Rescan();
   settings.RemoveEquals = true;
   settings.DeleteOldArchive = true;
+  disk.Remove({"Archive/Slot2/info.txt"});
+  const Files before = disk.AllFiles();
   ASSERT_TRUE(Reorder());
   EXPECT_EQ(disk.Names("Archive"), (std::vector<std::string>{"info.txt"}));
-  ASSERT_EQ(disk.Listed("Program/rescued/1"), "note0.txt|rescued.txt|")
-      << "the picture is in the new archive";
-  std::set<std::string> contents;
-  for (const auto& [name, bytes] : disk.AllFiles()) contents.insert(bytes);
-  EXPECT_TRUE(contents.contains("three\r\n") && contents.contains("another note\r\n"));
+  ExpectNothingLost(before, disk);
+  std::string aside;
+  for (const auto& [name, bytes] : disk.AllFiles()) {
+    if (name.starts_with("Program/rescued/1/Slot")) aside += name.substr(18) + '|';
+  }
+  EXPECT_TRUE(aside == "Slot3/note1.txt|Slot3/savegame.4|Slot3/shot4.jpg|" ||
+              aside == "Slot2/savegame.0|Slot2/shot0.jpg|Slot3/note1.txt|")
+      << aside;
 }
 
 TEST_F(ReorderTest, NeverDeletesTheNewSubfoldersOrOtherFoldersInUse) {
@@ -339,27 +391,41 @@ TEST_F(ReorderTest, NothingIsDeletedBeforeTheCopiesAreFlushed) {
   files.FailAlways("Flush", "", FileError::kInputOutput);
   settings.DeleteOldArchive = true;
   const Files before = disk.AllFiles();
+  boxes.answers = {BoxAnswer::kYes};
   ASSERT_TRUE(Reorder());
   ExpectUntouched(before, disk);
-  EXPECT_TRUE(Contains(boxes.shown.back().text, "did not confirm"));
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "did not confirm"));
 }
 
-TEST_F(ReorderTest, ASubfolderThatCannotBeMadeStopsTheRun) {
+TEST_F(ReorderTest, NamesAndRoomAreLookedAtBeforeTheFirstCopy) {
   disk.MakeFolder("New/Part2");
+  disk.Write("New/~vm~Part1/other", "no copy");
+  settings.MaxPerFolder = 3;
+  EXPECT_FALSE(Reorder());
+  const std::string told = TakeRefusal();
+  EXPECT_TRUE(Contains(told, "\"T:\\New\\~vm~Part1\"\r\n\"T:\\New\\Part2\"")) << told;
+
+  disk.Remove({"New/Part2", "New/~vm~Part1/other"});
+  files.free_room = 100;
+  EXPECT_FALSE(Reorder()) << "the question begins on No";
+  EXPECT_TRUE(Contains(boxes.shown[0].text, "needs 1 MB"));
+  EXPECT_EQ(disk.Listed("New"), "");
+}
+
+TEST_F(ReorderTest, ASubfolderThatCannotBeMadeOrNamedTakesTheRunBack) {
   settings.MaxPerFolder = 3;
   settings.DeleteOldArchive = true;
   const Files before = disk.AllFiles();
-  const ArchiveSettings old_settings = program.archive.settings;
-  EXPECT_FALSE(Reorder());
-  ExpectUntouched(before, disk);
-  EXPECT_EQ(program.archive.settings, old_settings);
-  EXPECT_EQ(program.catalogue.EntryCount(), 6);
-  ASSERT_EQ(boxes.shown.size(), 1U);
-  const std::string& told = boxes.shown[0].text;
-  EXPECT_TRUE(Contains(told, "\"T:\\New\\Part2\" could not be created: the name exists already"));
-  EXPECT_TRUE(Contains(told,
-                       "3 savegames were copied before in 1 new sub-folders, the first is "
-                       "\"T:\\New\\Part1\""));
+  for (const char* operation : {"CreateFolder", "Rename"}) {
+    const ArchiveSettings old_settings = program.archive.settings;
+    files.Reset();
+    files.FailAlways(operation, "Part1", FileError::kAccessDenied);
+    EXPECT_FALSE(Reorder());
+    EXPECT_TRUE(Contains(TakeRefusal(), "\"T:\\New\\Part1\" could not be created: "));
+    EXPECT_EQ(disk.AllFiles(), before);
+    EXPECT_EQ(disk.Listed("New"), "");
+    EXPECT_EQ(program.archive.settings, old_settings);
+  }
 }
 
 TEST_F(ReorderTest, SettingsThatCannotBeAreRefusedInOrder) {
@@ -377,6 +443,7 @@ TEST_F(ReorderTest, SettingsThatCannotBeAreRefusedInOrder) {
       {{.BasePath = "T:\\New", .FolderName = "Part", .MaxSlot = -1}, "cannot be negative"},
       {{.BasePath = "T:\\New", .FolderName = "Taken", .MaxSlot = 9}, "Warning: You must chose a"},
       {{.BasePath = "T:\\New", .FolderName = "a?b", .MaxSlot = 9}, "no folder name can hold"},
+      {{.BasePath = "T:\\New", .FolderName = "..\\x", .MaxSlot = 9}, "no folder name can hold"},
       {{.BasePath = "T:\\New", .FolderName = "Part ", .MaxSlot = 9}, "ends with a blank"},
       {{.BasePath = "T:\\New", .FolderName = long_name, .MaxSlot = 9}, "too long"},
       {{.BasePath = "T:\\Game", .FolderName = "SaveGame.", .MaxSlot = 9}, "in Tomb Raider folder"},
@@ -433,17 +500,20 @@ class WholeReorder : public testing::OpenWorld {
     disk.Write("Archive/Slot1/note0.txt", "nine\r\n");
     disk.Write("Archive/Slot2/shot0.jpg", "picture");
     disk.Write("Archive/Slot2/strange.txt", "strange");
+    WriteArchiveFile();
+    program.preferences.LastArchive = "T:\\Archive.vmk";
     Rescan();
   }
 
-  void Run() {
+  void Run() { Run(program); }
+  static bool Run(Program& run) {
     const ReorderSettings settings{.BasePath = "T:\\New",
                                    .FolderName = "Part",
                                    .MaxSlot = 1,
                                    .DeleteOldArchive = true,
                                    .RemoveEquals = true,
                                    .KeepLevelsApart = true};
-    ReorderArchive(program, settings, [](int) {});
+    return ReorderArchive(run, settings, [](int) {});
   }
 
   bool OldArchiveIsLeft() const {
@@ -451,23 +521,35 @@ class WholeReorder : public testing::OpenWorld {
   }
 };
 
+const auto run = [](WholeReorder& world) { world.Run(); };
+
 TEST(WholeReorderTest, NoFailingCallLosesAnythingOrPassesInSilence) {
   WholeReorder whole;
-  const Files before = whole.disk.AllFiles();
+  Files before = whole.disk.AllFiles();
+  before.erase("Archive.vmk");
   whole.Run();
   ASSERT_FALSE(whole.OldArchiveIsLeft());
-  testing::FailEveryCall<WholeReorder>(
-      FileError::kAccessDenied, std::mem_fn(&WholeReorder::Run), [&](WholeReorder& world) {
-        ExpectNothingLost(before, world.disk);
-        EXPECT_TRUE(!world.OldArchiveIsLeft() || world.boxes.AllTexts() != whole.boxes.AllTexts())
-            << "what is left of the old archive was not told";
-      });
+  testing::FailEveryCall<WholeReorder>(FileError::kAccessDenied, run, [&](WholeReorder& world) {
+    ExpectNothingLost(before, world.disk);
+    EXPECT_TRUE(!world.OldArchiveIsLeft() || world.boxes.AllTexts() != whole.boxes.AllTexts())
+        << "what is left of the old archive was not told";
+  });
 }
 
 TEST(WholeReorderTest, DyingAtAnyCallLosesNothing) {
-  const Files before = WholeReorder().disk.AllFiles();
-  testing::DieAtEveryCall<WholeReorder>(std::mem_fn(&WholeReorder::Run), [&](WholeReorder& world) {
+  Files before = WholeReorder().disk.AllFiles();
+  before.erase("Archive.vmk");
+  testing::DieAtEveryCall<WholeReorder>(run, [&](WholeReorder& world) {
     ExpectNothingLost(before, world.disk);
+    // The next run finds an archive that is whole, the old or the new one, and can do it all again.
+    Program next = world.NewProgram();
+    next.archive.settings = ReadArchiveFile(world.files, "T:\\Archive.vmk").settings;
+    next.preferences.ScanAllSubfolders = true;
+    world.files.Reset();
+    ScanArchive(next);
+    EXPECT_EQ(next.catalogue.EntryCount(), 2);
+    const bool named = world.disk.Exists("New/Part2");
+    EXPECT_NE(WholeReorder::Run(next), named) << world.boxes.AllTexts();
   });
 }
 

@@ -33,6 +33,9 @@ TEST_F(DiskTest, ReadsFilesThatAreLongerThanABlock) {
   bytes.back() = 'z';
   disk_.Write("long", bytes);
   EXPECT_EQ(fs_.Read("T:\\long", FileSystem::kWholeFile).bytes, bytes);
+  EXPECT_EQ(fs_.Attributes("T:\\long").size, bytes.size());
+  EXPECT_GT(fs_.FreeRoom("T:\\").value_or(0), bytes.size());
+  EXPECT_FALSE(fs_.FreeRoom("T:\\none").has_value());
   EXPECT_EQ(fs_.Read("T:\\long", 65537).bytes, bytes.substr(0, 65537));
   EXPECT_EQ(fs_.Read("T:\\long", 0).bytes, "");
 

@@ -35,6 +35,8 @@ class FaultyFileSystem final : public FileSystem {
   // Called with the operation's name before each call: what another program does meanwhile.
   std::function<void(const std::string&)> meanwhile;
 
+  std::optional<std::uint64_t> free_room;  // instead of what the disk has
+
   AttributesResult Attributes(const std::string& path) override {
     return Pass("Attributes", path, [&] { return real_.Attributes(path); });
   }
@@ -47,6 +49,9 @@ class FaultyFileSystem final : public FileSystem {
   }
   std::optional<FileIdentity> Identity(const std::string& path) override {
     return Pass("Identity", path, [&] { return real_.Identity(path); });
+  }
+  std::optional<std::uint64_t> FreeRoom(const std::string& folder) override {
+    return free_room ? free_room : real_.FreeRoom(folder);
   }
   std::string FinalPath(const std::string& path) override { return real_.FinalPath(path); }
   FileError Create(const std::string& path, std::string_view bytes) override {

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -81,6 +82,9 @@ AttributesResult PosixFileSystem::Attributes(const std::string& path) {
   if (result.error != FileError::kNone) return result;
   result.attributes.folder = S_ISDIR(found.status.st_mode);
   result.attributes.other = !S_ISDIR(found.status.st_mode) && !S_ISREG(found.status.st_mode);
+  if (S_ISREG(found.status.st_mode)) {
+    result.size = static_cast<std::uint64_t>(found.status.st_size);
+  }
   result.attributes.read_only = (found.status.st_mode & S_IWUSR) == 0;
   return result;
 }
@@ -150,6 +154,15 @@ std::optional<FileIdentity> PosixFileSystem::Identity(const std::string& path) {
   const PathStatus found = Status(path);
   if (found.error != FileError::kNone) return std::nullopt;
   return FileIdentity{found.status.st_dev, found.status.st_ino};
+}
+
+std::optional<std::uint64_t> PosixFileSystem::FreeRoom(const std::string& folder) {
+  const PathStatus found = Status(folder);
+  struct statvfs room = {};
+  if (found.error != FileError::kNone || statvfs(found.host.c_str(), &room) != 0) {
+    return std::nullopt;
+  }
+  return static_cast<std::uint64_t>(room.f_bavail) * room.f_frsize;
 }
 
 std::string PosixFileSystem::FinalPath(const std::string& path) {

@@ -85,9 +85,12 @@ std::wstring DiskSpelling(const WindowsPath& path, const PathNames& names) {
 }
 
 DiskAttributes AttributesOf(const std::wstring& path) {
-  const DWORD bits = GetFileAttributesW(path.c_str());
-  if (bits == INVALID_FILE_ATTRIBUTES) return {ErrorUnless(false, path), {}};
-  return {FileError::kNone, FollowLink(path, bits)};
+  WIN32_FILE_ATTRIBUTE_DATA found = {};
+  if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &found) == 0) {
+    return {ErrorUnless(false, path), {}};
+  }
+  const ULARGE_INTEGER size{{found.nFileSizeLow, found.nFileSizeHigh}};
+  return {FileError::kNone, FollowLink(path, found.dwFileAttributes), size.QuadPart};
 }
 
 FolderContents ListFolder(const std::wstring& folder, const PathNames& names,

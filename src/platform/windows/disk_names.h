@@ -24,6 +24,7 @@ std::wstring DiskSpelling(const WindowsPath& path, const PathNames& names);
 struct DiskAttributes {
   FileError error = FileError::kNone;
   FileAttributes attributes;
+  std::uint64_t size = 0;  // of a file, in bytes
 };
 
 // What a path names, links followed. A link that leads nowhere is `other`.

@@ -95,7 +95,7 @@ AttributesResult WindowsFileSystem::Attributes(const std::string& path) {
   const CheckedPath checked = PathToLookFor(path);
   if (checked.error != FileError::kNone) return {checked.error, {}};
   const DiskAttributes found = AttributesOf(checked.wide);
-  return {found.error, found.attributes};
+  return {found.error, found.attributes, found.size};
 }
 
 Listing WindowsFileSystem::List(const std::string& pattern) {
@@ -127,6 +127,16 @@ ReadResult WindowsFileSystem::Read(const std::string& path, std::size_t limit) {
   const FileHandle file = OpenExisting(checked.wide, GENERIC_READ);
   if (!file.IsOpen()) return {ErrorUnless(false, checked.wide), {}};
   return ReadUpTo(file, limit);
+}
+
+std::optional<std::uint64_t> WindowsFileSystem::FreeRoom(const std::string& folder) {
+  const CheckedPath checked = PathToLookFor(folder);
+  ULARGE_INTEGER room = {};
+  if (checked.error != FileError::kNone ||
+      GetDiskFreeSpaceExW(checked.wide.c_str(), &room, nullptr, nullptr) == 0) {
+    return std::nullopt;
+  }
+  return room.QuadPart;
 }
 
 std::optional<FileIdentity> WindowsFileSystem::Identity(const std::string& path) {

@@ -37,6 +37,7 @@ class WindowsFileSystem final : public FileSystem {
   std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) override;
   bool WorksOnThreads() const override { return true; }
   ReadResult Read(const std::string& path, std::size_t limit) override;
+  std::optional<std::uint64_t> FreeRoom(const std::string& folder) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;
 
   FileError Create(const std::string& path, std::string_view bytes) override;
