@@ -51,7 +51,12 @@ void TemporaryFolder::MakeReadOnly(const std::string& file) const {
 
 void TemporaryFolder::Remove(const std::vector<std::string>& names) const {
   for (const std::string& name : names) {
-    if (fs::remove_all(path_ / FromUtf8(name)) == 0) throw std::runtime_error("no " + name);
+    const fs::path path = path_ / FromUtf8(name);
+    if (fs::is_regular_file(fs::symlink_status(path))) {
+      // Windows deletes nothing that is read-only.
+      fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+    }
+    if (fs::remove_all(path) == 0) throw std::runtime_error("no " + name);
   }
 }
 
