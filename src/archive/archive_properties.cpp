@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "archive/subfolder_name.h"
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
@@ -16,21 +17,17 @@
 namespace vellumark {
 namespace {
 
-bool Refuse(Program& program, int message) {
-  Tell(program, LoadMessage(message), BoxIcon::kCritical);
+bool Refuse(Program& program, const std::string& text) {
+  Tell(program, text, BoxIcon::kCritical);
   return false;
 }
+
+bool Refuse(Program& program, int message) { return Refuse(program, LoadMessage(message)); }
 
 // The number that a maximum begins with; nothing when a slot number cannot be that large.
 std::optional<std::int16_t> SlotNumberIn(const std::string& text) {
   const std::int64_t number = ReadLeadingNumber(text);
   return FitsInt16(number) ? std::optional(static_cast<std::int16_t>(number)) : std::nullopt;
-}
-
-// No disk can hold a sub-folder whose name has one of these. A file with control characters would
-// not be opened as an archive again.
-bool IsPossibleName(const std::string& base_name) {
-  return AreFieldText(base_name) && base_name.find_first_of("/:*?\"<>|") == std::string::npos;
 }
 
 std::string ChooseFolder(Program& program, ChooserMode mode, const std::string& shown) {
@@ -70,7 +67,8 @@ bool AcceptArchiveProperties(Program& program, const ArchivePropertiesFields& fi
   if (fields.executable.empty()) return Refuse(program, 221);
   const auto max_savegame = SlotNumberIn(fields.max_savegame);
   if (!max_savegame) return Refuse(program, 217);
-  if (!IsPossibleName(base_name)) return Refuse(program, kBaseNameNotPossible);
+  const std::string problem = SubfolderNameProblem(fields.main_folder, base_name, *max_savegame);
+  if (!problem.empty()) return Refuse(program, problem);
 
   ArchiveSettings& settings = program.archive.settings;
   settings.MainFolder = fields.main_folder;

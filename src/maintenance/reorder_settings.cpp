@@ -1,11 +1,13 @@
 #include "maintenance/reorder_settings.h"
 
+#include "archive/subfolder_name.h"
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/record.h"
+#include "foundation/rescue.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
@@ -61,15 +63,8 @@ bool LiesIn(FileSystem& files, std::string folder, const std::optional<FileIdent
 // Why no sub-folder can have this name; empty when one can.
 std::string NameProblem(Program& program, const ReorderTarget& target, int max_slot) {
   const std::string& name = target.base_name;
-  if (name.find_first_of("/\\:*?\"<>|") != std::string::npos || IsTemporaryName(name)) {
-    return LoadMessage(kBaseNameNotPossible);
-  }
-  // The archive file holds names without the blanks around them.
-  if (name != Trimmed(name)) return LoadMessage(kReorderNameBlanks);
-  const std::string longest =
-      InFolder(target.TemporarySubfolder(static_cast<int>(Catalogue::kMostEntries)),
-               SavegameFileName(max_slot));
-  if (longest.size() > kTextFieldSize) return LoadMessage(kPathTooLong, {Quoted(longest)});
+  std::string problem = SubfolderNameProblem(target.main_folder, name, max_slot);
+  if (!problem.empty()) return problem;
 
   const auto game = program.files.Identity(Trimmed(program.archive.settings.GameFolder));
   const bool in_game = game && program.files.Identity(target.main_folder) == game;
@@ -83,6 +78,9 @@ std::string PlaceProblem(Program& program, const ReorderTarget& target, bool del
   const std::string parent = FolderOf(target.Subfolder(1));
   if (LiesIn(files, parent, files.Identity(program.play.BackupFolder))) {
     return LoadMessage(kReorderInBackup, {Quoted(parent)});
+  }
+  if (LiesIn(files, parent, files.Identity(RescueRoot(program)))) {
+    return LoadMessage(kFolderIsOwn, {Quoted(parent)});
   }
   if (!deletes_old) return {};
 

@@ -45,10 +45,12 @@ TEST_F(ArchivePropertiesTest, TheFirstMissingFieldIsNamedAndNothingChanges) {
       {&fields.game_folder, "C:", "[Tomb raider folder]"},
       {&fields.executable, "C:\\tomb4.exe", "[Tomb.exe full path]"},
       {&fields.base_name, "a\tb", "cannot be used"},
-      {&fields.base_name, "", "cannot be used"}};
+      {&fields.base_name, "..\\x", "cannot be used"},
+      {&fields.base_name, "cut", "cannot be used"},
+      {&fields.base_name, "", "256 characters at most"}};
   for (const auto& [field, next, named] : steps) {
     EXPECT_TRUE(Contains(refusal(), named));
-    *field = next;
+    *field = next == std::string("cut") ? std::string(300, 'n') : next;
   }
   EXPECT_EQ(program.archive.settings, before);
   EXPECT_FALSE(program.archive.ArchiveChanged);
