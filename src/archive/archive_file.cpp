@@ -41,6 +41,7 @@ ArchiveRead ReadArchiveFile(FileSystem& files, const std::string& path) {
   ArchiveRead result;
   result.error = read.error;
   result.settings = DecodeArchive(read.bytes);
+  result.bytes = read.bytes;
   if (read.error != FileError::kNone || read.bytes.size() < kArchiveRecordSize) {
     result.state = ArchiveReadState::kInPart;
   } else if (!AreFieldText(std::string_view(read.bytes).substr(0, 4 * kTextFieldSize))) {
@@ -51,21 +52,28 @@ ArchiveRead ReadArchiveFile(FileSystem& files, const std::string& path) {
 
 FileError WriteArchiveFile(Program& program, const std::string& path) {
   ArchiveState& archive = program.archive;
+  const std::string record = EncodeArchive(archive.settings);
   const bool is_own_file =
       !archive.never_written && SamePath(program.text, path, program.preferences.LastArchive);
+  const bool changed = is_own_file && !archive.read_in_part &&
+                       IsChangedBehind(program.files, path, archive.file_bytes, record);
   std::optional<std::string> kept;
-  if ((!is_own_file || archive.read_in_part) && FileExists(program.files, path)) {
+  if ((!is_own_file || changed || archive.read_in_part) && FileExists(program.files, path)) {
     kept = KeepBackupOf(program.files, path);
     if (!kept) return FileError::kInputOutput;
   }
-  const FileError error = WriteRecordFile(program.files, path, EncodeArchive(archive.settings));
+  const FileError error = WriteRecordFile(program.files, path, record);
   if (error != FileError::kNone) return error;
 
   program.preferences.LastArchive = path;
+  archive.file_bytes = record;
   archive.read_in_part.reset();
   archive.never_written = false;
   archive.ArchiveChanged = false;
-  if (!is_own_file && kept) Tell(program, LoadMessage(kOldFileKept, {Quoted(path), Quoted(*kept)}));
+  if ((!is_own_file || changed) && kept) {
+    const int message = changed ? kChangedFileKept : kOldFileKept;
+    Tell(program, LoadMessage(message, {Quoted(path), Quoted(*kept)}));
+  }
   return FileError::kNone;
 }
 

@@ -27,14 +27,15 @@ enum class ArchiveReadState {
 struct ArchiveRead {
   ArchiveReadState state = ArchiveReadState::kWhole;
   ArchiveSettings settings;            // what could be read
+  std::string bytes;                   // the record in the file
   FileError error = FileError::kNone;  // why it is kInPart; kNone when the file is too short
 };
 
 ArchiveRead ReadArchiveFile(FileSystem& files, const std::string& path);
 
 // Writes the settings in use to a file, which becomes LastArchive. Writing overwrites without a
-// question, so what another archive's file of that name held, or one that was not read whole, is
-// kept first, and the user is told of the former.
+// question, so what another archive's file of that name held, one that was not read whole, or what
+// another program has written there meanwhile, is kept first, and the user is told.
 FileError WriteArchiveFile(Program& program, const std::string& path);
 
 }  // namespace vellumark

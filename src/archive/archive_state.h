@@ -34,6 +34,8 @@ struct ArchiveState {
   // Set while a new archive has not been written: a file of its name is another archive's.
   bool never_written = false;
 
+  std::string file_bytes{};  // the file's record as this run has read or written it last
+
   bool ArchivePropertiesOk = false;  // the last answer of the archive properties dialog
 
   // Set while the dialog for a new archive is open: what was in use before.

@@ -64,10 +64,14 @@ constexpr TableMessage kOwnMessages[] = {
      "The archive could not be saved in ~1: ~2.\r\nThe file has been left as it was."},
     {kSaveElsewhere, "Do you want to save it with another name?"},
     {kOldFileKept, "The archive has been saved in ~1.\r\nThe file that had this name is now ~2"},
+    {kChangedFileKept,
+     "The file ~1 was changed by another program while Vellumark ran. What it held is kept in ~2"},
+    {kReasonFolderGone, "the folder that it lay in is not there"},
     {kPathTooLong, "This path is too long, it can have 256 characters at most: ~1"},
     {kBaseNameNotPossible,
-     "This sub-folder name cannot be used: no folder name can hold these characters / : * ? \" < > "
-     "|"},
+     "This sub-folder name cannot be used: no folder name can hold these characters / \\ : * ? \" "
+     "< "
+     "> |"},
     {kPathNotExpressible,
      "This file or folder cannot be used: its path has characters that savegame archives cannot "
      "hold, or no drive letter leads to it."},

@@ -46,6 +46,8 @@ enum OwnMessage : int {
   kArchiveNotWritten,        // ~1 file, ~2 reason
   kSaveElsewhere,            // question
   kOldFileKept,              // ~1 file, ~2 kept copy
+  kChangedFileKept,          // ~1 file, ~2 kept copy
+  kReasonFolderGone,         // reason
   kPathTooLong,              // ~1 path
   kBaseNameNotPossible,      // no values
   kPathNotExpressible,       // no values

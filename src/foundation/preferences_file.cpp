@@ -58,6 +58,7 @@ void ReadPreferencesFile(Program& program) {
   const bool foreign = IsForeign(read.bytes);
   if (!foreign) DecodePreferences(read.bytes, program.preferences);
 
+  program.preferences_file.bytes = read.bytes;
   program.preferences_file.read_whole =
       !foreign && read.error == FileError::kNone && read.bytes.size() == kPreferencesRecordSize;
   if (!program.preferences_file.read_whole) {
@@ -69,17 +70,22 @@ void ReadPreferencesFile(Program& program) {
 
 void WritePreferencesFile(Program& program) {
   const std::string& path = program.paths.PreferencesPath;
+  const std::string record = EncodePreferences(program.preferences);
+  PreferencesFileState& file = program.preferences_file;
+  const bool changed = file.read_whole && IsChangedBehind(program.files, path, file.bytes, record);
+  std::optional<std::string> kept;
   FileError error = FileError::kNone;
-  if (!program.preferences_file.read_whole && FileExists(program.files, path) &&
-      !KeepBackupOf(program.files, path)) {
-    error = FileError::kInputOutput;
-  } else {
-    error = WriteRecordFile(program.files, path, EncodePreferences(program.preferences));
+  if ((!file.read_whole || changed) && FileExists(program.files, path)) {
+    kept = KeepBackupOf(program.files, path);
+    if (!kept) error = FileError::kInputOutput;
   }
+  if (error == FileError::kNone) error = WriteRecordFile(program.files, path, record);
   if (error != FileError::kNone) {
-    Tell(program, LoadMessage(kPreferencesNotWritten, {Quoted(path), ReasonFor(error)}),
-         BoxIcon::kCritical);
+    return Tell(program, LoadMessage(kPreferencesNotWritten, {Quoted(path), ReasonFor(error)}),
+                BoxIcon::kCritical);
   }
+  file.bytes = record;
+  if (changed) Tell(program, LoadMessage(kChangedFileKept, {Quoted(path), Quoted(*kept)}));
 }
 
 }  // namespace vellumark

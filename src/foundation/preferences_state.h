@@ -24,6 +24,7 @@ struct Preferences {
 // What is known about the file that the preferences came from.
 struct PreferencesFileState {
   bool read_whole = true;  // false: the file was there and could not be read whole
+  std::string bytes{};     // its record as this run has read or written it last
 };
 
 }  // namespace vellumark

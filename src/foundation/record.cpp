@@ -77,6 +77,14 @@ FileError WriteRecordFile(FileSystem& files, const std::string& path, std::strin
   return ReplaceFile(files, path, bytes);
 }
 
+bool IsChangedBehind(FileSystem& files, const std::string& path, std::string_view known,
+                     std::string_view record) {
+  if (known.empty()) return false;
+  const ReadResult now = files.Read(path, record.size());
+  return now.error == FileError::kNone && !now.bytes.empty() && now.bytes != known &&
+         now.bytes != record;
+}
+
 std::optional<std::string> KeepBackupOf(FileSystem& files, const std::string& path) {
   constexpr int kMostBackups = 1000;
   for (int n = 1; n <= kMostBackups; ++n) {

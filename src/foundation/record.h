@@ -55,6 +55,11 @@ class RecordWriter {
 // beyond the record stays. The file is replaced in one step.
 FileError WriteRecordFile(FileSystem& files, const std::string& path, std::string_view record);
 
+// True when a file's record is neither what this run knows of it nor what it is about to write:
+// another program has written it meanwhile. False while nothing is known of the file.
+bool IsChangedBehind(FileSystem& files, const std::string& path, std::string_view known,
+                     std::string_view record);
+
 // Copies a file to `<path>.bak`, or `<path>.bak2`, ... when that holds something else already.
 // Answers the copy's path, or nothing when the file could not be copied.
 std::optional<std::string> KeepBackupOf(FileSystem& files, const std::string& path);

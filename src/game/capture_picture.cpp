@@ -76,7 +76,8 @@ void SaveCaptureElsewhere(Program& program) {
                                                .filter = LoadMessage(112),
                                                .start_folder = ShotStartFolder(program),
                                                .initial_name = InFolder(folder, proposed),
-                                               .confirm_overwrite = true});
+                                               .confirm_overwrite = true,
+                                               .default_ending = LoadMessage(114)});
   if (!path || path->empty()) return;
 
   RememberFolder(program, *path);

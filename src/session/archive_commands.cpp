@@ -8,6 +8,7 @@
 #include "archive/archive_file.h"
 #include "archive/scan.h"
 #include "foundation/failures.h"
+#include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
@@ -36,15 +37,18 @@ std::string NoNamePath(const Program& program) {
   return program.paths.ProgramFolder + LoadMessage(270);
 }
 
-std::string NotWritten(const std::string& path, FileError error) {
-  return LoadMessage(kArchiveNotWritten, {Quoted(path), ReasonFor(error)});
+std::string NotWritten(Program& program, const std::string& path, FileError error) {
+  const bool folder_gone =
+      error == FileError::kNotFound && !FolderExists(program.files, FolderOf(path));
+  const std::string reason = folder_gone ? LoadMessage(kReasonFolderGone) : ReasonFor(error);
+  return LoadMessage(kArchiveNotWritten, {Quoted(path), reason});
 }
 
 // Says that a save has failed. True when the user wants to try another name: at shut-down there is
 // no later chance.
 bool AskForAnotherName(Program& program, const std::string& path, FileError error) {
   const std::string question =
-      NotWritten(path, error) + kLineBreak + kLineBreak + LoadMessage(kSaveElsewhere);
+      NotWritten(program, path, error) + kLineBreak + kLineBreak + LoadMessage(kSaveElsewhere);
   return AskYesNo(program, question, BoxIcon::kCritical);
 }
 
@@ -82,10 +86,10 @@ void ClearMainWindow(Program& program) {
   program.selection = {};
 }
 
-// The record of a file chosen with Load; nothing after telling the user why it is refused.
-std::optional<ArchiveSettings> ReadChosenArchive(Program& program, const std::string& path) {
+// What a file chosen with Load holds; nothing after telling the user why it is refused.
+std::optional<ArchiveRead> ReadChosenArchive(Program& program, const std::string& path) {
   const ArchiveRead read = ReadArchiveFile(program.files, path);
-  if (read.state == ArchiveReadState::kWhole) return read.settings;
+  if (read.state == ArchiveReadState::kWhole) return read;
 
   PlaySoundEffect(program, SoundEffect::kRefusal);
   const std::string reason = read.state == ArchiveReadState::kNotArchive
@@ -105,7 +109,7 @@ void SaveArchive(Program& program) {
     return;
   }
   if (const FileError error = WriteArchiveFile(program, last); error != FileError::kNone) {
-    Tell(program, NotWritten(last, error), BoxIcon::kCritical);
+    Tell(program, NotWritten(program, last, error), BoxIcon::kCritical);
   }
 }
 
@@ -145,7 +149,7 @@ void SaveArchiveIfChanged(Program& program) {
   const std::string path = last.empty() ? NoNamePath(program) : last;
   const FileError error = WriteArchiveFile(program, path);
   if (error != FileError::kNone && ending) {
-    return Tell(program, NotWritten(path, error), BoxIcon::kCritical);
+    return Tell(program, NotWritten(program, path, error), BoxIcon::kCritical);
   }
   if (error != FileError::kNone && AskForAnotherName(program, last, error)) SaveArchiveAs(program);
 }
@@ -165,6 +169,7 @@ void NewArchive(Program& program) {
   program.archive.settings = {};
   program.archive.settings.MaxSavegame = kNewArchiveMaxSavegame;
   program.archive.settings.SubfolderBaseName = LoadMessage(269);
+  program.archive.file_bytes.clear();
   program.archive.read_in_part.reset();
   program.archive.never_written = true;
   program.preferences.LastArchive = NoNamePath(program);
@@ -188,15 +193,16 @@ void LoadArchive(Program& program) {
   if (!chosen) return;
   const std::string path = Trimmed(*chosen);
   if (!FitsRecord(program, path)) return;
-  const auto settings = ReadChosenArchive(program, path);
-  if (!settings) return;
+  const auto read = ReadChosenArchive(program, path);
+  if (!read) return;
 
-  if (!SamePath(program.text, settings->GameFolder, program.archive.settings.GameFolder)) {
+  if (!SamePath(program.text, read->settings.GameFolder, program.archive.settings.GameFolder)) {
     RestoreOriginalSavegames(program);
   }
   // Only now: while the question waits, path and settings are those of one archive.
   program.preferences.LastArchive = path;
-  program.archive.settings = *settings;
+  program.archive.settings = read->settings;
+  program.archive.file_bytes = read->bytes;
   program.archive.read_in_part.reset();
   program.archive.never_written = false;
   program.archive.ArchiveChanged = false;

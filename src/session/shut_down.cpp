@@ -20,7 +20,7 @@ void MainWindowClosing(Program& program) {
   for (const WindowId dialog :
        {WindowId::kDialogCattura, WindowId::kDialogCerca, WindowId::kDialogGetDir,
         WindowId::kDialogNote, WindowId::kDialogPref, WindowId::kDialogRiordina,
-        WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc}) {
+        WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc, WindowId::kDialogRescued}) {
     program.windows.CloseDialog(dialog);
   }
   if (IsEnding(program)) EndSession(program);

@@ -104,6 +104,7 @@ void ReadLastArchive(Program& program) {
     return;
   }
   program.archive.settings = read.settings;
+  program.archive.file_bytes = read.bytes;
   if (read.state == ArchiveReadState::kInPart) {
     program.archive.read_in_part = read.settings;
     Tell(program, LoadMessage(kArchiveNotReadWhole, {Quoted(last), ReasonFor(read.error)}),

@@ -63,6 +63,7 @@ TEST_F(ArchiveCommandsTest, SaveAsThatCannotWriteAsksAgainAndCancelledKeepsTheOl
   EXPECT_EQ(program.preferences.LastArchive, "T:\\Archive.vmk");
   EXPECT_TRUE(program.archive.ArchiveChanged);
   EXPECT_EQ(boxes.shown.size(), 2U);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "the folder that it lay in is not there"));
 }
 
 TEST_F(ArchiveCommandsTest, SaveAsKeepsWhatAnotherFileOfThatNameHeld) {

@@ -260,11 +260,32 @@ TEST_F(ShutDownTest, SavesTheArchiveThenThePreferencesThenWarns) {
 
   std::vector<WindowId> closed;
   for (const auto& [event, window] : windows.events) closed.push_back(window);
-  EXPECT_EQ(closed, (std::vector<WindowId>{
-                        WindowId::kDialogScreenShot, WindowId::kDialogCattura,
-                        WindowId::kDialogCattura, WindowId::kDialogCerca, WindowId::kDialogGetDir,
-                        WindowId::kDialogNote, WindowId::kDialogPref, WindowId::kDialogRiordina,
-                        WindowId::kDialogScreenShot, WindowId::kDialogSetNewArc}));
+  EXPECT_EQ(closed,
+            (std::vector<WindowId>{
+                WindowId::kDialogScreenShot, WindowId::kDialogCattura, WindowId::kDialogCattura,
+                WindowId::kDialogCerca, WindowId::kDialogGetDir, WindowId::kDialogNote,
+                WindowId::kDialogPref, WindowId::kDialogRiordina, WindowId::kDialogScreenShot,
+                WindowId::kDialogSetNewArc, WindowId::kDialogRescued}));
+}
+
+TEST_F(ShutDownTest, WhatAnotherProgramWroteIntoTheRecordsMeanwhileIsKept) {
+  Program program = Started();
+  program.preferences.SoundEffects = true;
+  const std::string preferences = disk.Read("Program/manager.prf").replace(0, 2, "\0\0", 2);
+  const std::string archive = EncodeArchive({"Other", "T:\\Other", "T:\\Game", "", 9, 0});
+  disk.Write("Program/manager.prf", preferences);
+  disk.Write("Archive.vmk", archive);
+  boxes.shown.clear();
+  program.archive.ArchiveChanged = true;
+  ShutDown(program);
+  EXPECT_EQ(disk.Read("Program/manager.prf.bak"), preferences);
+  EXPECT_EQ(disk.Read("Archive.vmk.bak"), archive);
+  EXPECT_EQ(boxes.shown.size(), 2U) << boxes.AllTexts();
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "Archive.vmk\" was changed by another program"));
+
+  program.archive.ArchiveChanged = true;
+  ShutDown(program);
+  EXPECT_EQ(boxes.shown.size(), 2U) << "what this run has written is no surprise";
 }
 
 TEST_F(ShutDownTest, WhenTheSessionEndsNothingIsAskedAndTheNextStartTells) {

@@ -171,6 +171,20 @@ void QtServicesTest::FileDialogsStartWhereTheyAreTold() {
                                    .initial_name = "T:\\Saves\\old.vmk"});
   QCOMPARE(saved.value_or("nothing"), std::string("T:\\Saves\\new name"));
 
+  for (const auto& [typed, opened] :
+       {std::pair{"OLD.vmk", "OLD.vmk"}, std::pair{"Old", "Old.vmk"}, std::pair{"no", "no"}}) {
+    WithNext<QFileDialog>([typed = typed](QFileDialog* dialog) {
+      auto* name = dialog->findChild<QLineEdit*>();
+      QTRY_VERIFY(name->hasFocus());
+      QTest::keyClicks(name, QString::fromLatin1(typed));
+      QTest::keyClick(name, Qt::Key_Return);
+    });
+    const auto path = dialogs.Open(
+        {.title = "", .filter = "Vellumark archive (.vmk)|*.vmk", .start_folder = "T:\\Saves"});
+    QCOMPARE(path.value_or("nothing"), std::string("T:\\Saves\\") + opened);
+  }
+  QVERIFY(world_.files.Read("T:\\Saves\\OLD.vmk", 1).error == FileError::kNone);
+
   WithNext<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
   QVERIFY(!dialogs.Open({.title = "", .filter = "x|*", .start_folder = "T:\\None"}).has_value());
 }

@@ -16,8 +16,14 @@ QString QtFilter(const QString& filter) {
 std::optional<std::string> QtFileDialogs::Open(const FileDialogRequest& request) {
   QFileDialog dialog(ModalOpener());
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  return Run(dialog, request);
+  // A mode that takes existing files only refuses names that differ in their letter case, and names
+  // without an ending, which the filter hides.
+  dialog.setFileMode(QFileDialog::AnyFile);
+  auto path = Run(dialog, request);
+  const std::size_t dot = request.filter.rfind('.');
+  if (!path || dot == std::string::npos || Exists(*path)) return path;
+  const std::string with_ending = *path + request.filter.substr(dot);
+  return Exists(with_ending) ? with_ending : path;
 }
 
 std::optional<std::string> QtFileDialogs::Save(const FileDialogRequest& request) {
@@ -25,6 +31,7 @@ std::optional<std::string> QtFileDialogs::Save(const FileDialogRequest& request)
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.confirm_overwrite);
+  dialog.setDefaultSuffix(ToQString(text_, request.default_ending));
   return Run(dialog, request);
 }
 
@@ -44,6 +51,10 @@ std::optional<std::string> QtFileDialogs::Run(QFileDialog& dialog,
   auto path = files_.FromHostPath(chosen);
   if (!path) boxes_.Show(not_expressible_, BoxButtons::kOk, BoxIcon::kCritical);
   return path;
+}
+
+bool QtFileDialogs::Exists(const std::string& path) const {
+  return files_.Attributes(path).error == FileError::kNone;
 }
 
 QString QtFileDialogs::HostPath(const std::string& path) const {

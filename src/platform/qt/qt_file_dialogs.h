@@ -26,6 +26,7 @@ class QtFileDialogs final : public FileDialogs {
 
  private:
   std::optional<std::string> Run(QFileDialog& dialog, const FileDialogRequest& request);
+  bool Exists(const std::string& path) const;
   QString HostPath(const std::string& path) const;
 
   FileSystem& files_;
