@@ -11,7 +11,7 @@
 #include "bench_run.h"
 #include "desktop/pictures.h"
 #include "measured.h"
-#include "platform/qt/qt_clipboard.h"
+#include "platform/qt/picture_reading.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ std::size_t EncodeBarely(const QImage& picture) {
   encoder.input_components = 4;
   encoder.in_color_space = JCS_EXT_BGRX;  // the order in which the picture's pixels lie in memory
   jpeg_set_defaults(&encoder);
-  jpeg_set_quality(&encoder, QtPicture::kJpegQuality, TRUE);
+  jpeg_set_quality(&encoder, vellumark::kJpegQuality, TRUE);
   jpeg_start_compress(&encoder, TRUE);
   for (int y = 0; y < picture.height(); ++y) {
     auto* line = const_cast<JSAMPROW>(picture.constScanLine(y));
@@ -53,9 +53,9 @@ void RequireLikeness(std::size_t ours, std::size_t baseline) {
   Require(ratio > 0.95 && ratio < 1.05, "The two have not done the same work.");
 }
 
-double TimeOurs(const QtPicture& picture, std::size_t baseline_size) {
+double TimeOurs(const QImage& picture, std::size_t baseline_size) {
   const double begin = Now();
-  const std::optional<std::string> file = picture.ToJpeg();
+  const std::optional<std::string> file = vellumark::EncodeJpeg(picture);
   const double end = Now();
   Require(file.has_value(), "The picture has not been encoded.");
   RequireLikeness(file->size(), baseline_size);
@@ -69,7 +69,7 @@ double TimeBare(const QImage& picture, std::size_t& size) {
 }
 
 void RequireQuality(const QImage& picture) {
-  const std::optional<std::string> file = QtPicture(picture).ToJpeg();
+  const std::optional<std::string> file = vellumark::EncodeJpeg(picture);
   Require(file.has_value(), "The picture has not been encoded.");
   const QImage decoded = QImage::fromData(QByteArray::fromStdString(*file), "JPG");
   const double ratio = vellumark::testing::SignalToNoise(picture, decoded);
@@ -84,9 +84,8 @@ int main() {
   RequireQuality(picture);
 
   constexpr double kLimit = 1.5;
-  const QtPicture ours(picture);
   std::size_t size = 0;
   const auto baseline = [&] { return TimeBare(picture, size); };
-  PrintRatio("jpeg / libjpeg", MedianOfFive(baseline, [&] { return TimeOurs(ours, size); }),
+  PrintRatio("jpeg / libjpeg", MedianOfFive(baseline, [&] { return TimeOurs(picture, size); }),
              kLimit);
 }

@@ -152,6 +152,17 @@ constexpr TableMessage kOwnMessages[] = {
     {kSlotsChanged,
      "The savegames in the slots have changed. The list shows them as they are now: please set the "
      "slot again.\r\nNothing has been written."},
+    {kLinkedInGameOnly,
+     "The screen-shot and the note are linked in the game folder only: what slot ~1 holds now is "
+     "not the archived savegame that was put there, or the archive has that one no more."},
+    {kClipboardUnreadable,
+     "There is a picture on the clipboard that cannot be read. It may be damaged, or larger than "
+     "32,767 pixels a side or 1 GB in memory."},
+    {kPictureNotShown, "This picture cannot be shown: ~1."},
+    {kPictureFaultNone, "it is no picture"},
+    {kPictureFaultDamaged, "its file is damaged"},
+    {kPictureFaultTooLarge, "it is larger than 32,767 pixels a side or 1 GB in memory"},
+    {kPicturesFilter, "|Pictures|~1"},
     {kShotFolderKept,
      "The folder for screen-shots in the preferences stays as it was. The screen-shot itself is "
      "saved all the same, if it can be."},

@@ -91,12 +91,19 @@ enum OwnMessage : int {
   kSavegamesInSlots,        // no values
 
   // Capture
-  kSlotEmpty,            // no values
-  kSlotsChanged,         // no values
-  kShotFolderKept,       // no values
-  kTypedNoteKept,        // ~1 folder
-  kTypedNoteNotKept,     // ~1 folder, ~2 reason; followed by the note
-  kNameCapturedPicture,  // for assistive technology
+  kSlotEmpty,             // no values
+  kSlotsChanged,          // no values
+  kLinkedInGameOnly,      // ~1 slot
+  kClipboardUnreadable,   // no values
+  kPictureNotShown,       // ~1 reason
+  kPictureFaultNone,      // reason
+  kPictureFaultDamaged,   // reason
+  kPictureFaultTooLarge,  // reason
+  kPicturesFilter,        // ~1 patterns
+  kShotFolderKept,        // no values
+  kTypedNoteKept,         // ~1 folder
+  kTypedNoteNotKept,      // ~1 folder, ~2 reason; followed by the note
+  kNameCapturedPicture,   // for assistive technology
 
   // Main window
   kNoteGoesOn,       // ~1 characters shown, ~2 characters in all

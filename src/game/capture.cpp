@@ -4,6 +4,7 @@
 
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
@@ -45,6 +46,10 @@ void OnTimer(Program& program) {
   if (capture.CaptureDialogOpen) return;
 
   ClipboardRead read = program.clipboard.ReadPicture();
+  if (read.answer == ClipboardAnswer::kUnreadable) {
+    PlaySoundEffect(program, SoundEffect::kRefusal);
+    return Tell(program, LoadMessage(kClipboardUnreadable), BoxIcon::kExclamation);
+  }
   if (read.answer != ClipboardAnswer::kPicture) return;
   capture.CaptureArmed = false;
   if (!HasSlotsToLink(program)) return RefusePicture(program);

@@ -47,6 +47,7 @@ class Linker {
     if (!program_.play.ExaminedInGameFolder) program_.capture.ShotLinkedNotImported = true;
     if (const auto index = archived_ ? archived_ : GameEntry()) Refresh(*index);
     TellFailures();
+    TellWhatIsNotReached();
     if (note_failed_) return LinkAnswer::kNoteNotWritten;
     ActivateRunningGame(program_);
     return LinkAnswer::kLinked;
@@ -127,6 +128,14 @@ class Linker {
     if (note_failed_) text += kLineBreak + LoadMessage(kNoteStillShown);
     PlaySoundEffect(program_, SoundEffect::kRefusal);
     Tell(program_, text, BoxIcon::kExclamation);
+  }
+
+  // A slot beyond those that the play filled holds what the game has saved since, as its player
+  // knows.
+  void TellWhatIsNotReached() {
+    if (archived_ || !program_.play.ExaminedInGameFolder) return;
+    if (slot_ >= program_.play.ExaminedCount()) return;
+    Tell(program_, LoadMessage(kLinkedInGameOnly, {slot_}), BoxIcon::kExclamation);
   }
 
   SavegameEntry& Entry(int index) {

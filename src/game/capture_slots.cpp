@@ -41,6 +41,10 @@ std::string SlotLine(Program& program, int slot) {
   return line.append("  ").append(header.level_name);
 }
 
+std::string SlotBytes(Program& program, int slot) {
+  return program.files.Read(SlotFile(program, slot), FileSystem::kWholeFile).bytes;
+}
+
 // The slots that have a savegame, in rising order.
 std::vector<int> TakenSlots(Program& program) {
   std::vector<int> taken;
@@ -73,10 +77,12 @@ void ReadCaptureSlots(Program& program) {
   CaptureState& capture = program.capture;
   capture.game_folder = GameFolder(program);
   capture.slot_lines.clear();
+  capture.slot_bytes.clear();
   const std::vector<int> taken = TakenSlots(program);
   if (taken.empty()) return;
   for (int slot = 0; slot <= taken.back(); ++slot) {
     capture.slot_lines.push_back(SlotLine(program, slot));
+    capture.slot_bytes.push_back(SlotBytes(program, slot));
   }
 }
 
@@ -98,7 +104,8 @@ bool ChosenSlotIsAsShown(Program& program) {
   const auto line = static_cast<std::size_t>(capture.SelectedSlot);
   return line < capture.slot_lines.size() &&
          SamePath(program.text, capture.game_folder, GameFolder(program)) &&
-         capture.slot_lines[line] == SlotLine(program, capture.SelectedSlot);
+         capture.slot_lines[line] == SlotLine(program, capture.SelectedSlot) &&
+         capture.slot_bytes[line] == SlotBytes(program, capture.SelectedSlot);
 }
 
 }  // namespace vellumark

@@ -19,7 +19,8 @@ void ReadCaptureSlots(Program& program);
 // The user has chosen a line; -1 for none. An empty slot has no level name and the counter 0.
 void ChooseSlot(Program& program, int line);
 
-// True while the chosen line says what its slot holds at this moment.
+// True while the chosen slot holds what it held when its line was read: another savegame may have
+// the same line.
 bool ChosenSlotIsAsShown(Program& program);
 
 }  // namespace vellumark

@@ -24,6 +24,7 @@ struct CaptureState {
   std::int16_t SelectedCounter = 0;
   std::string game_folder{};              // whose slots the lines show
   std::vector<std::string> slot_lines{};  // as the dialog shows them; line k is slot k
+  std::vector<std::string> slot_bytes{};  // what the slots held then; empty for an empty one
 };
 
 }  // namespace vellumark

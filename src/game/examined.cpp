@@ -33,12 +33,12 @@ std::optional<int> ExaminedEntry(Program& program, int slot) {
   const PlayState& play = program.play;
   if (!play.ExaminedInGameFolder || slot < 0 || slot >= play.ExaminedCount()) return std::nullopt;
 
-  const auto place = static_cast<std::size_t>(slot);
-  const auto index = static_cast<std::size_t>(play.ExaminedList[place]);
+  const std::string& path = play.examined_paths[static_cast<std::size_t>(slot)];
   const auto& entries = program.catalogue.entries;
-  if (index >= entries.size() || entries[index].FolderNumber == 0) return std::nullopt;
-  const std::string& path = entries[index].SavegamePath;
-  if (!SamePath(program.text, path, play.examined_paths[place])) return std::nullopt;
+  const auto entry = std::ranges::find_if(entries, [&](const SavegameEntry& candidate) {
+    return candidate.FolderNumber != 0 && SamePath(program.text, candidate.SavegamePath, path);
+  });
+  if (entry == entries.end()) return std::nullopt;
 
   const std::string name = SavegameFileName(slot);
   const auto placed = std::ranges::find(play.placed, name, &PlacedFile::name);
@@ -47,7 +47,7 @@ std::optional<int> ExaminedEntry(Program& program, int slot) {
   if (ContentOf(program, InFolder(game_folder, name)) != placed->bytes) return std::nullopt;
   const auto archived = ContentOf(program, path);
   if (!archived || WithoutCounter(*archived) != WithoutCounter(placed->bytes)) return std::nullopt;
-  return static_cast<int>(index);
+  return static_cast<int>(entry - entries.begin());
 }
 
 }  // namespace vellumark

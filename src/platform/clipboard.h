@@ -20,7 +20,8 @@ class Picture {
 enum class ClipboardAnswer {
   kNoPicture,
   kPicture,
-  kBusy,  // it could not be opened just now; another moment may do
+  kBusy,        // not just now: it could not be opened, or a large picture is still being read
+  kUnreadable,  // the picture is none that can be read; said once for each change of the clipboard
 };
 
 struct ClipboardRead {
@@ -33,7 +34,7 @@ class Clipboard {
   virtual ~Clipboard() = default;
 
   // Takes the picture, in whichever picture format the clipboard offers. The conversion costs
-  // milliseconds, so callers ask only when they want one.
+  // time, so callers ask only when they want one.
   virtual ClipboardRead ReadPicture() = 0;
 
   // Empties the clipboard, whatever it holds.

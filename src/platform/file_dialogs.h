@@ -10,7 +10,8 @@ namespace vellumark {
 // All texts in the code page.
 struct FileDialogRequest {
   std::string title{};
-  std::string filter{};        // description `|` pattern, for example "Jpeg files (*.jpg)|*.jpg"
+  std::string filter{};        // description `|` pattern, for example "Jpeg files (*.jpg)|*.jpg";
+                               // more pairs may follow, several patterns have a `;` between them
   std::string start_folder{};  // a folder that does not exist leaves the choice to the system
   std::string initial_name{};  // a name or a full path; empty for none
   bool confirm_overwrite = false;  // saving only

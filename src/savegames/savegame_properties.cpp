@@ -37,17 +37,27 @@ std::string WithSignPlace(int number) {
   return number < 0 ? std::to_string(number) : WithLeadingBlank(number);
 }
 
-// Asks about a file that is no picture. One that cannot be read fails when it is copied.
-bool MayBecomeScreenShot(Program& program, const std::string& chosen, PictureTest is_picture) {
-  const ReadResult read = program.files.Read(chosen, FileSystem::kWholeFile);
-  if (read.error != FileError::kNone || is_picture(read.bytes)) return true;
-  return AskYesNo(program, LoadMessage(kNoPicture, {Quoted(chosen)}), BoxIcon::kExclamation);
+// What is to become the screen-shot; nothing when the user does not want a file that is no picture.
+// One that cannot be read fails when it is copied.
+std::optional<std::string> ScreenShotFrom(Program& program, const ReadResult& chosen,
+                                          const std::string& path, const PictureFormats& formats) {
+  if (chosen.error != FileError::kNone) return std::string();
+  auto jpeg = formats.as_jpeg(chosen.bytes);
+  if (jpeg) return jpeg;
+  const bool all_the_same =
+      AskYesNo(program, LoadMessage(kNoPicture, {Quoted(path)}), BoxIcon::kExclamation);
+  return all_the_same ? std::optional(chosen.bytes) : std::nullopt;
 }
 
 // A chosen file that has vanished must not cost the screen-shot that is linked.
 bool CopyToScreenShot(Program& program, const std::string& chosen, const std::string& shot) {
   return program.files.Attributes(chosen).error == FileError::kNone &&
          CopyFileReplacing(program.files, chosen, shot);
+}
+
+bool ReplaceScreenShot(Program& program, const std::string& shot, const std::string& jpeg) {
+  if (FileExists(program.files, shot)) program.files.ClearAttributes(shot);
+  return ReplaceFile(program.files, shot, jpeg) == FileError::kNone;
 }
 
 bool IsPossibleCounter(Program& program, std::optional<std::int64_t> counter) {
@@ -182,13 +192,21 @@ std::string LinkedShot(Program& program, int index) {
   return FileExists(program.files, shot) ? shot : std::string();
 }
 
-bool ChooseScreenShot(Program& program, int index, PictureTest is_picture) {
+bool ChooseScreenShot(Program& program, int index, const PictureFormats& formats) {
   const std::string shot = EntryAt(program, index).ShotPath;
-  const auto chosen = program.file_dialogs.Open({.title = LoadMessage(163),
-                                                 .filter = LoadMessage(164),
-                                                 .start_folder = ShotStartFolder(program)});
-  if (!chosen || !MayBecomeScreenShot(program, *chosen, is_picture)) return false;
-  if (CopyToScreenShot(program, *chosen, shot)) return true;
+  const auto chosen = program.file_dialogs.Open(
+      {.title = LoadMessage(163),
+       .filter = LoadMessage(164) + LoadMessage(kPicturesFilter, {formats.patterns}),
+       .start_folder = ShotStartFolder(program)});
+  if (!chosen) return false;
+  const ReadResult read = program.files.Read(*chosen, FileSystem::kWholeFile);
+  const auto picture = ScreenShotFrom(program, read, *chosen, formats);
+  if (!picture) return false;
+  // A picture that stays as it is is copied, with what the disk knows of it beside its bytes.
+  const bool as_it_is = read.error != FileError::kNone || *picture == read.bytes;
+  const bool done = as_it_is ? CopyToScreenShot(program, *chosen, shot)
+                             : ReplaceScreenShot(program, shot, *picture);
+  if (done) return true;
   Tell(program, LoadMessage(165, {*chosen}) + shot, BoxIcon::kCritical);
   return false;
 }

@@ -2,9 +2,9 @@
 #ifndef VELLUMARK_SAVEGAMES_SAVEGAME_PROPERTIES_H_
 #define VELLUMARK_SAVEGAMES_SAVEGAME_PROPERTIES_H_
 
+#include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "savegames/typed_note.h"
 
@@ -34,12 +34,18 @@ SavegameProperties PrepareSavegameProperties(Program& program);
 // The path of a savegame's screen-shot; empty when the file does not exist.
 std::string LinkedShot(Program& program, int index);
 
-// True when the bytes of a file are a picture that can be shown.
-using PictureTest = bool (*)(std::string_view bytes);
+// The pictures that can be shown.
+struct PictureFormats {
+  std::string patterns;  // of the names of their files: "*.jpg;*.png"
+  // A picture file's bytes as those of a JPEG file: the same where it is one, nothing where they
+  // are no picture.
+  std::function<std::optional<std::string>(const std::string& bytes)> as_jpeg;
+};
 
-// Asks for a picture and copies it at once over the savegame's screen-shot; a file that is no
-// picture only after a question. False when nothing has changed; a failure was told.
-bool ChooseScreenShot(Program& program, int index, PictureTest is_picture);
+// Asks for a picture and puts it at once in the place of the savegame's screen-shot, as a JPEG
+// file; a file that is no picture as it is, and only after a question. False when nothing has
+// changed; a failure was told.
+bool ChooseScreenShot(Program& program, int index, const PictureFormats& formats);
 
 struct SavegameChanges {
   int index = 0;

@@ -120,8 +120,9 @@ void CaptureDialog::ImpostaValori() {
   shown_note_ = PrepareCapture(program_);
   ShowSlots();
   note_->ShowStoredNote(shown_note_);
+  program_.capture.typed_note.clear();
   const auto* captured = dynamic_cast<const QtPicture*>(program_.capture.picture.get());
-  picture_->ShowImage(captured != nullptr ? captured->Image() : QImage());
+  picture_->ShowImage(captured != nullptr ? captured->Preview() : QImage());
 }
 
 void CaptureDialog::ShowSlots() {

@@ -3,14 +3,39 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPainter>
+#include <QScreen>
+#include <QTimer>
 #include <algorithm>
+#include <utility>
 
+#include "foundation/failures.h"
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "platform/file_system.h"
+#include "platform/qt/picture_reading.h"
 
 namespace vellumark {
 namespace {
 
 constexpr QSize kLeastSize(64, 48);
+
+constexpr auto kAtOnce = std::chrono::milliseconds(0);
+constexpr auto kLookEvery = std::chrono::milliseconds(50);
+
+QString NotShown(const std::string& reason) {
+  return QString::fromStdString(LoadMessage(kPictureNotShown, {reason}));
+}
+
+std::string WordsFor(PictureFault fault) {
+  switch (fault) {
+    case PictureFault::kTooLarge:
+      return LoadMessage(kPictureFaultTooLarge);
+    case PictureFault::kDamaged:
+      return LoadMessage(kPictureFaultDamaged);
+    default:
+      return LoadMessage(kPictureFaultNone);
+  }
+}
 
 QAccessibleInterface* PictureForAssistants(const QString& /*class_name*/, QObject* object) {
   auto* box = qobject_cast<PictureBox*>(object);
@@ -27,17 +52,48 @@ PictureBox::PictureBox(FileSystem& files, QWidget* parent) : QWidget(parent), fi
 }
 
 void PictureBox::ShowFile(const std::string& path) {
-  QImage image;
-  if (!path.empty()) {
-    const ReadResult read = files_.Read(path, FileSystem::kWholeFile);
-    image.loadFromData(reinterpret_cast<const uchar*>(read.bytes.data()),
-                       static_cast<int>(read.bytes.size()));
-  }
-  ShowImage(image);
+  const int number = ++*asked_;
+  ShowImage({});
+  if (path.empty()) return;
+  ReadResult read = files_.Read(path, FileSystem::kWholeFile);
+  if (read.error != FileError::kNone) return ShowWords(NotShown(ReasonFor(read.error)));
+
+  const QSize most = screen()->size() * devicePixelRatioF();
+  const auto work = [bytes = std::move(read.bytes), most, number, asked = asked_] {
+    return number == *asked ? DecodePicture(bytes, most) : DecodedPicture();
+  };
+  constexpr auto kPatience = std::chrono::milliseconds(150);
+  const auto decoded = BeginBeside<DecodedPicture>(work);
+  if (decoded.wait_for(kPatience) == std::future_status::ready) return Take(decoded.get());
+
+  auto* watch = new QTimer(this);
+  connect(watch, &QTimer::timeout, this, [this, watch, decoded, number] {
+    const bool wanted = number == *asked_;
+    if (wanted && decoded.wait_for(kAtOnce) != std::future_status::ready) return;
+    watch->deleteLater();
+    if (!wanted) return;
+    Take(decoded.get());
+    emit Arrived();
+  });
+  watch->start(kLookEvery);
+}
+
+void PictureBox::Take(const DecodedPicture& decoded) {
+  if (decoded.image.isNull()) return ShowWords(NotShown(WordsFor(decoded.fault)));
+  ShowImage(decoded.image);
+}
+
+void PictureBox::ShowWords(const QString& words) {
+  ShowImage({});
+  words_ = words;
+  update();
+  setAccessibleDescription(words);
 }
 
 void PictureBox::ShowImage(const QImage& image) {
   picture_ = image;
+  words_.clear();
+  setAccessibleDescription({});
   scaled_ = {};
   update();
 }
@@ -48,7 +104,7 @@ void PictureBox::SetDimmed(bool dimmed) {
 }
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
-  if (picture_.isNull()) return;
+  if (picture_.isNull()) return PaintWords();
 
   const QRect area = PictureArea();
   const QSize pixels = (QSizeF(area.size()) * devicePixelRatioF()).toSize();
@@ -60,6 +116,15 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (dimmed_) painter.setOpacity(0.25);
   painter.drawPixmap(area.topLeft(), scaled_);
+}
+
+void PictureBox::PaintWords() {
+  if (words_.isEmpty()) return;
+  constexpr int kMargin = 8;
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+  painter.drawText(rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+                   Qt::AlignCenter | Qt::TextWordWrap, words_);
 }
 
 ShotBox::ShotBox(FileSystem& files, QWidget* parent) : PictureBox(files, parent) {

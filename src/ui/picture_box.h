@@ -5,11 +5,14 @@
 #include <QImage>
 #include <QPixmap>
 #include <QWidget>
+#include <atomic>
+#include <memory>
 #include <string>
 
 namespace vellumark {
 
 class FileSystem;
+struct DecodedPicture;
 
 class PictureBox : public QWidget {
   Q_OBJECT
@@ -17,7 +20,8 @@ class PictureBox : public QWidget {
  public:
   PictureBox(FileSystem& files, QWidget* parent);
 
-  // Shows the picture of a file; an empty path, or a file that is no readable picture, shows none.
+  // Shows the picture of a file, not larger than the screen; for one that takes long to decode the
+  // window does not wait. An empty path shows nothing, a file without a picture says why.
   void ShowFile(const std::string& path);
 
   void ShowImage(const QImage& image);
@@ -27,6 +31,10 @@ class PictureBox : public QWidget {
 
   const QImage& Picture() const { return picture_; }
 
+ signals:
+  // A picture that took long is there.
+  void Arrived();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
@@ -34,8 +42,15 @@ class PictureBox : public QWidget {
   virtual QRect PictureArea() const { return rect(); }
 
  private:
+  void Take(const DecodedPicture& decoded);
+  void PaintWords();
+  void ShowWords(const QString& words);
+
   FileSystem& files_;
   QImage picture_;
+  QString words_;  // in the place of a picture
+  // The number of the last picture asked for; a thread that gets to an older one drops it.
+  std::shared_ptr<std::atomic<int>> asked_ = std::make_shared<std::atomic<int>>(0);
   bool dimmed_ = false;
   QPixmap scaled_;  // the picture at the size it was painted last
 };

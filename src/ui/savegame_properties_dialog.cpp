@@ -4,13 +4,14 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QImage>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "foundation/messages.h"
+#include "platform/qt/picture_reading.h"
 #include "program.h"
 #include "savegames/savegame_properties.h"
 #include "ui/controls.h"
@@ -29,9 +30,17 @@ QLabel* LabelFor(const char* name, QWidget* field) {
   return label;
 }
 
-bool IsPicture(std::string_view bytes) {
-  const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  return !QImage::fromData(view).isNull();
+// Those that this computer can read.
+PictureFormats Pictures() {
+  QStringList patterns;
+  const QList<QByteArray> readable = QImageReader::supportedImageFormats();
+  for (const char* ending : {"jpg", "jpeg", "png", "bmp", "webp"}) {
+    if (readable.contains(ending)) patterns.append(QStringLiteral("*.") + QLatin1String(ending));
+  }
+  return {.patterns = patterns.join(u';').toStdString(), .as_jpeg = [](const std::string& bytes) {
+            return WaitPainting(
+                BeginBeside<std::optional<std::string>>([bytes] { return AsJpegFile(bytes); }));
+          }};
 }
 
 }  // namespace
@@ -112,7 +121,7 @@ void SavegamePropertiesDialog::ImpostaValori() {
 void SavegamePropertiesDialog::ShowShot() { shot_->SetPath(ToText(LinkedShot(program(), index_))); }
 
 void SavegamePropertiesDialog::Browse() {
-  if (ChooseScreenShot(program(), index_, IsPicture)) ShowShot();
+  if (ChooseScreenShot(program(), index_, Pictures())) ShowShot();
 }
 
 void SavegamePropertiesDialog::Accept() {

@@ -9,6 +9,9 @@ ScreenShotViewer::ScreenShotViewer(FileSystem& files, QWidget* main_window)
     : QDialog(main_window, Qt::Window), picture_(new PictureBox(files, this)) {
   setObjectName(QStringLiteral("Dialog_ScreenShot"));
   picture_->setObjectName(QStringLiteral("Image1"));
+  connect(picture_, &PictureBox::Arrived, this, [this] {
+    if (size() == opened_) Open();
+  });
   setAttribute(Qt::WA_DeleteOnClose);
   setMinimumSize(160, 120);
 }
@@ -16,11 +19,16 @@ ScreenShotViewer::ScreenShotViewer(FileSystem& files, QWidget* main_window)
 void ScreenShotViewer::ShowPicture(const std::string& path) {
   picture_->ShowFile(path);
   setWindowTitle(QString());
-  if (!isVisible()) resize(OpeningSize());
+  if (!isVisible()) Open();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
+}
+
+void ScreenShotViewer::Open() {
+  opened_ = OpeningSize();
+  resize(opened_);
 }
 
 // The picture's own size, but neither smaller than a small window nor larger than most of the

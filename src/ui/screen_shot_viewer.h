@@ -23,7 +23,10 @@ class ScreenShotViewer final : public QDialog {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Open();
   QSize OpeningSize() const;
+
+  QSize opened_;  // as it opened; the user may have changed it
 
   PictureBox* picture_;
 };

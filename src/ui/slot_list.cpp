@@ -33,6 +33,14 @@ void SlotList::SetLines(const QStringList& lines, int chosen) {
   updateGeometry();
 }
 
+QModelIndex SlotList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  const bool far_down = action == MoveEnd || action == MovePageDown;
+  if (currentIndex().isValid() || !far_down) return QListWidget::moveCursor(action, modifiers);
+  const int page = std::max(1, viewport()->height() / std::max(1, sizeHintForRow(0)));
+  const int last = count() - 1;
+  return model()->index(action == MoveEnd ? last : std::min(page, last), 0);
+}
+
 QSize SlotList::sizeHint() const {
   qsizetype longest = kLeastColumns;
   for (int line = 0; line < count(); ++line) longest = std::max(longest, item(line)->text().size());

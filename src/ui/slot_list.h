@@ -19,6 +19,10 @@ class SlotList final : public QListWidget {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+ protected:
+  // Without a current line, the keys that lead down lead from the first one.
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+
  signals:
   // The user has chosen a line; -1 when none is chosen any more.
   void Chosen(int line);

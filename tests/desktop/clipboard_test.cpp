@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "desktop/pictures.h"
+#include "platform/qt/picture_reading.h"
 #include "platform/qt/qt_clipboard.h"
 
 namespace vellumark::testing {
@@ -49,6 +50,14 @@ QByteArray Encoded(const QImage& picture, const char* format) {
   return buffer.data();
 }
 
+ClipboardRead ReadWhenIdle(QtClipboard& clipboard) {
+  ClipboardRead read;
+  do {
+    read = clipboard.ReadPicture();
+  } while (read.answer == ClipboardAnswer::kBusy);
+  return read;
+}
+
 TEST(Clipboard, GivesAPictureOfEachKind) {
   const QImage picture = NoisyScene({64, 48});
   struct Kind {
@@ -58,11 +67,12 @@ TEST(Clipboard, GivesAPictureOfEachKind) {
   for (const auto& [mime_type, format] :
        {Kind{"image/png", "PNG"}, Kind{"image/bmp", "BMP"}, Kind{"image/x-win-bitmap", "BMP"}}) {
     Offer(QLatin1String(mime_type), Encoded(picture, format));
-    const ClipboardRead read = QtClipboard().ReadPicture();
+    QtClipboard clipboard;
+    const ClipboardRead read = ReadWhenIdle(clipboard);
     ASSERT_EQ(read.answer, ClipboardAnswer::kPicture) << mime_type;
     const auto* taken = dynamic_cast<const QtPicture*>(read.picture.get());
     ASSERT_NE(taken, nullptr);
-    EXPECT_EQ(taken->Image().convertToFormat(picture.format()), picture) << mime_type;
+    EXPECT_EQ(taken->Preview().convertToFormat(picture.format()), picture) << mime_type;
   }
 }
 
@@ -72,9 +82,36 @@ TEST(Clipboard, AsksForNothingThatIsNoPicture) {
   EXPECT_EQ(words.asked, 0);
 }
 
-TEST(Clipboard, SurvivesAPictureThatIsNone) {
-  Offer(QStringLiteral("image/png"), "no picture at all");
-  EXPECT_EQ(QtClipboard().ReadPicture().answer, ClipboardAnswer::kNoPicture);
+TEST(Clipboard, SaysOnceThatAPictureIsNone) {
+  QtClipboard clipboard;
+  const Content& none = Offer(QStringLiteral("image/png"), "no picture at all");
+  EXPECT_EQ(ReadWhenIdle(clipboard).answer, ClipboardAnswer::kUnreadable);
+  const int asked = none.asked;
+  EXPECT_EQ(ReadWhenIdle(clipboard).answer, ClipboardAnswer::kNoPicture);
+  EXPECT_EQ(none.asked, asked);
+
+  Offer(QStringLiteral("image/png"), Encoded(NoisyScene({64, 48}), "PNG"));
+  EXPECT_EQ(ReadWhenIdle(clipboard).answer, ClipboardAnswer::kPicture);
+}
+
+// More than the windows' library takes by itself.
+TEST(Clipboard, GivesThePictureOfSeveralLargeScreens) {
+  QImage screens(12000, 6000, QImage::Format_RGB32);
+  screens.fill(Qt::darkCyan);
+  Offer(QStringLiteral("image/png"), Encoded(screens, "PNG"));
+  QtClipboard clipboard;
+  const ClipboardRead read = ReadWhenIdle(clipboard);
+  ASSERT_EQ(read.answer, ClipboardAnswer::kPicture);
+  const auto jpeg = read.picture->ToJpeg();
+  EXPECT_EQ(AsJpegFile(jpeg.value_or("")), jpeg);
+  EXPECT_EQ(DecodePicture(jpeg.value_or(""), {100, 100}).image.size(), QSize(100, 50));
+}
+
+TEST(Picture, ThatSaysItIsEnormousCostsNothing) {
+  std::string jpeg = Encoded(QImage(8, 8, QImage::Format_RGB32), "JPG").toStdString();
+  jpeg.replace(jpeg.find("\xFF\xC0") + 5, 4, "\x7F\xF0\x7F\xF0");
+  EXPECT_EQ(DecodePicture(jpeg).fault, PictureFault::kTooLarge);
+  EXPECT_EQ(DecodePicture("words").fault, PictureFault::kNotAPicture);
 }
 
 TEST(Clipboard, IsEmptied) {

@@ -215,6 +215,12 @@ TEST_F(CaptureTest, RefusesToLinkToASlotThatHasChanged) {
   program.archive.settings.GameFolder = "T:\\Other";
   EXPECT_EQ(Link(2), LinkAnswer::kSlotsChanged);
   EXPECT_FALSE(disk.Exists("Other/shot2.jpg"));
+
+  program.archive.settings.GameFolder = "T:\\Game";
+  ReadCaptureSlots(program);
+  ChooseSlot(program, 2);
+  disk.Write("Game/savegame.2", InGame("savegame.2") + "of the same level and counter");
+  EXPECT_EQ(Link(2), LinkAnswer::kSlotsChanged);
   EXPECT_FALSE(disk.Exists("Game/shot2.jpg"));
 }
 
@@ -262,9 +268,20 @@ TEST_F(CaptureTest, LinksToThePlayedSavegameInTheArchiveToo) {
   EXPECT_EQ(Link(1), LinkAnswer::kLinked);
   EXPECT_EQ(Placed("shot1.jpg"), "another picture for the same slot");
 
+  // The archive's first savegame, before which another one comes now.
+  EndCapture(program);
+  AddSavegame("Archive/Slot1", 1, "Before it", 1);
+  Rescan();
+  OpenDialog("after a scan");
+  EXPECT_EQ(Link(1, "still found"), LinkAnswer::kLinked);
+  EXPECT_EQ(InArchive("shot4.jpg"), "after a scan");
+  EXPECT_EQ(program.catalogue.entries[1].NoteText, "still found");
+  disk.Remove({"Archive/Slot1/savegame.1"});
+
   EndCapture(program);
   OpenDialog();
   EXPECT_EQ(Link(3, "mine"), LinkAnswer::kLinked);
+  EXPECT_TRUE(boxes.shown.empty());
   EXPECT_EQ(InGame("note3.txt"), "mine\r\n");
   EXPECT_EQ(disk.Names("Archive/Slot1").size(), 4U);
   EXPECT_EQ(Placed("shot3.jpg"), "none");
@@ -280,6 +297,7 @@ TEST_F(CaptureTest, LeavesTheArchiveAloneWhenTheGameHasSavedIntoTheSlot) {
   EXPECT_EQ(disk.Listed("Archive/Slot1"), "savegame.4|savegame.7|");
   EXPECT_EQ(program.catalogue.entries[0].NoteText, "");
   EXPECT_EQ(Placed("note1.txt"), "none");
+  EXPECT_EQ(boxes.shown.back().text, LoadMessage(kLinkedInGameOnly, {1}));
 }
 
 TEST_F(CaptureTest, TellsWhatCouldNotBeWrittenAndKeepsTheNote) {

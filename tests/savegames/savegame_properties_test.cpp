@@ -14,7 +14,12 @@ using testing::Contains;
 using testing::OpenWorld;
 using testing::SavegameBytes;
 
-bool IsPicture(std::string_view bytes) { return bytes.starts_with("picture"); }
+const PictureFormats kPictures = {
+    .patterns = "*.jpg;*.png",
+    .as_jpeg = [](const std::string& bytes) -> std::optional<std::string> {
+      if (bytes.starts_with("picture")) return bytes;
+      return bytes.starts_with("png") ? std::optional("picture of " + bytes) : std::nullopt;
+    }};
 
 // Two savegames in the list; the second is the one that is worked on.
 class SavegamePropertiesTest : public ::testing::Test, public OpenWorld {
@@ -52,7 +57,7 @@ class SavegamePropertiesTest : public ::testing::Test, public OpenWorld {
 
   bool Choose(const std::string& file) {
     dialogs.answers = {file};
-    return ChooseScreenShot(program, kIndex, IsPicture);
+    return ChooseScreenShot(program, kIndex, kPictures);
   }
 };
 
@@ -218,7 +223,13 @@ TEST_F(SavegamePropertiesTest, AChosenPictureIsCopiedAtOnce) {
   EXPECT_TRUE(Choose("T:\\Archive\\shot3.jpg")) << "the screen-shot itself";
   EXPECT_EQ(dialogs.requests.back().start_folder, "T:\\Shots");
   EXPECT_EQ(disk.Read("Archive/SHOT3.JPG"), "picture a");
-  EXPECT_FALSE(ChooseScreenShot(program, kIndex, IsPicture)) << "the user cancels";
+  EXPECT_FALSE(ChooseScreenShot(program, kIndex, kPictures)) << "the user cancels";
+  EXPECT_EQ(dialogs.requests.back().filter, LoadMessage(164) + "|Pictures|*.jpg;*.png");
+
+  disk.Write("Shots/b.png", "png");
+  disk.MakeReadOnly("Archive/SHOT3.JPG");
+  EXPECT_TRUE(Choose("T:\\Shots\\b.png"));
+  EXPECT_EQ(disk.Read("Archive/SHOT3.JPG"), "picture of png");
   EXPECT_TRUE(boxes.shown.empty());
 }
 

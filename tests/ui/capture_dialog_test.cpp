@@ -22,7 +22,8 @@ class CaptureDialogTest : public WindowFixture {
  private slots:
   void ShowsThePictureTheSlotsAndItsCaptions();
   void KeysReachEveryControl();
-  void TheFirstArrowKeyChoosesTheFirstSlot();
+  void TheFirstKeyLeadsFromTheFirstSlot();
+  void ANoteThatTheProgramFilledInIsNotTyped();
   void FitsASmallScreenWithAllSlots();
   void ClosingArmsTheCaptureAgain();
   void RefusalsLeaveTheDialogOpen();
@@ -133,12 +134,28 @@ void CaptureDialogTest::KeysReachEveryControl() {
   QTRY_VERIFY(OpenDialog() == nullptr);
 }
 
-void CaptureDialogTest::TheFirstArrowKeyChoosesTheFirstSlot() {
+void CaptureDialogTest::TheFirstKeyLeadsFromTheFirstSlot() {
   CaptureDialog* dialog = Capture();
   QTest::keyClick(dialog->windowHandle(), Qt::Key_Down);
   QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
   QVERIFY(OpenDialog() == nullptr);
   QVERIFY(world_->disk.Exists("Game/shot0.jpg"));
+
+  for (const Qt::Key down : {Qt::Key_End, Qt::Key_PageDown}) {
+    dialog = Capture();
+    QTest::keyClick(dialog->windowHandle(), down);
+    QCOMPARE(program_->capture.SelectedSlot, std::int16_t{2});
+    dialog->reject();
+    QTRY_VERIFY(OpenDialog() == nullptr);
+  }
+}
+
+void CaptureDialogTest::ANoteThatTheProgramFilledInIsNotTyped() {
+  world_->disk.Remove({"Game/savegame.2"});
+  world_->disk.Write("Game/note0.txt", "of the slot\r\n");
+  CaptureDialog* dialog = Capture();
+  QCOMPARE(Note(dialog)->toPlainText(), QStringLiteral("of the slot"));
+  QCOMPARE(program_->capture.typed_note, std::string());
 }
 
 void CaptureDialogTest::FitsASmallScreenWithAllSlots() {

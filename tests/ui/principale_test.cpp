@@ -294,6 +294,8 @@ void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {
 
   Press(Qt::Key_Down);
   QVERIFY2(Find<PictureBox>("Image1")->Picture().isNull(), "its file is no picture");
+  QCOMPARE(Find<PictureBox>("Image1")->accessibleDescription(),
+           QStringLiteral("This picture cannot be shown: it is no picture."));
   QVERIFY2(is_red(), "another selection does not change the viewer");
   Click("Pul_Zoom");
   QVERIFY(picture->Picture().isNull());

@@ -13,6 +13,8 @@
 #include <QtTest>
 #include <functional>
 
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "game/capture.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
@@ -223,9 +225,17 @@ void QtServicesTest::APictureIsConvertedOnlyWhenItIsWanted() {
   QCOMPARE(conversions, 0);
 
   program.capture.CaptureArmed = true;
-  OnTimer(program);
+  for (int tick = 0; tick < 100 && program.capture.picture == nullptr; ++tick) OnTimer(program);
   QVERIFY(conversions > 0);
   QVERIFY(program.capture.picture != nullptr);
+
+  program.capture = {.CaptureArmed = true};
+  world_.boxes.shown.clear();
+  auto* words = new QMimeData;
+  words->setData(QStringLiteral("image/png"), "words");
+  QApplication::clipboard()->setMimeData(words);
+  for (int tick = 0; tick < 10; ++tick) OnTimer(program);
+  QCOMPARE(world_.boxes.AllTexts(), LoadMessage(kClipboardUnreadable) + "\n");
   QApplication::clipboard()->clear();
 }
 

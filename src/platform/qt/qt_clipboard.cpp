@@ -1,59 +1,111 @@
 #include "platform/qt/qt_clipboard.h"
 
-#include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QPainter>
+#include <QRegularExpression>
+#include <algorithm>
+#include <chrono>
 
 #include "platform/desktop_services.h"
+#include "platform/qt/picture_reading.h"
 
 namespace vellumark {
 namespace {
 
-QImage OnBlack(const QImage& image) {
-  QImage opaque(image.size(), QImage::Format_RGB32);
-  opaque.fill(Qt::black);
-  QPainter(&opaque).drawImage(opaque.rect(), image);
-  return opaque;
-}
+// Stands among the names of formats for a picture that Qt makes of what it knows.
+const QString kMadeByQt = QStringLiteral("application/x-qt-image");
 
-// Asks the clipboard's owner for a picture only when it has said that it offers one.
-QImage ReadImage(const QMimeData& content) {
-  if (content.hasImage()) {
-    auto image = qvariant_cast<QImage>(content.imageData());
-    if (!image.isNull()) return image;
-  }
-  // Names of picture formats that Qt does not know by name may stand for ones that it can read.
-  const QStringList formats = content.formats();
-  for (const QString& format : formats) {
-    if (!format.startsWith(QLatin1String("image/"))) continue;
-    QImage image = QImage::fromData(content.data(format));
-    if (!image.isNull()) return image;
-  }
-  return QImage::fromData(QByteArray::fromStdString(ClipboardAsBmpFile()), "BMP");
+QImage MakePreview(const QImage& image) {
+  constexpr QSize kLargeScreen(3840, 2160);
+  if (image.size().boundedTo(kLargeScreen) == image.size()) return image;
+  return image.scaled(kLargeScreen, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
 
-std::optional<std::string> QtPicture::ToJpeg() const {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  const QImage opaque = image_.hasAlphaChannel() ? OnBlack(image_) : image_;
-  if (!buffer.open(QIODevice::WriteOnly) || !opaque.save(&buffer, "JPG", kJpegQuality)) {
-    return std::nullopt;
-  }
-  return bytes.toStdString();
+QtPicture::QtPicture(const QImage& image)
+    : preview_(MakePreview(image)),
+      jpeg_(BeginBeside<std::optional<std::string>>([image] { return EncodeJpeg(image); })) {}
+
+std::optional<std::string> QtPicture::ToJpeg() const { return WaitPainting(jpeg_); }
+
+QtClipboard::QtClipboard() {
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &QtClipboard::Forget);
 }
 
+// A picture that cannot be had may be one that its owner is still making.
 ClipboardRead QtClipboard::ReadPicture() {
-  const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-  if (content == nullptr) return {};
-  QImage image = ReadImage(*content);
-  if (image.isNull()) return {};
-  return {ClipboardAnswer::kPicture, std::make_shared<QtPicture>(std::move(image))};
+  constexpr auto kPatience = std::chrono::milliseconds(200);
+  constexpr int kMostAttempts = 3;
+  if (!begun_) Begin();
+  while (begun_ && !refused_) {
+    if (decoding_.wait_for(kPatience) != std::future_status::ready) {
+      return {ClipboardAnswer::kBusy};
+    }
+    if (const auto picture = decoding_.get(); picture != nullptr) {
+      return {ClipboardAnswer::kPicture, picture};
+    }
+    if (BeginNext()) continue;
+    refused_ = ++attempts_ == kMostAttempts;
+    begun_ = refused_;
+    return {refused_ ? ClipboardAnswer::kUnreadable : ClipboardAnswer::kBusy};
+  }
+  return {};
 }
 
-void QtClipboard::Empty() { QGuiApplication::clipboard()->clear(); }
+void QtClipboard::Empty() {
+  Forget();
+  QGuiApplication::clipboard()->clear();
+}
+
+void QtClipboard::Forget() {
+  begun_ = false;
+  refused_ = false;
+  attempts_ = 0;
+}
+
+// What the clipboard's owner offers as a file is decoded on another thread; names of formats that
+// Qt does not know may stand for ones that it can read.
+void QtClipboard::Begin() {
+  const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+  formats_.clear();
+  if (content != nullptr) {
+    formats_ = content->formats().filter(QRegularExpression(QStringLiteral("^image/")));
+    std::ranges::stable_partition(
+        formats_, [](const QString& format) { return format == QLatin1String("image/png"); });
+    if (content->hasImage()) formats_.append(kMadeByQt);
+  }
+  if (formats_.isEmpty()) {
+    const std::string bytes = ClipboardAsBmpFile();
+    begun_ = !bytes.empty();
+    if (begun_) BeginDecoding(QByteArray::fromStdString(bytes));
+    return;
+  }
+  begun_ = BeginNext();
+}
+
+// False when nothing is left to be tried.
+bool QtClipboard::BeginNext() {
+  const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+  if (formats_.isEmpty() || content == nullptr) return false;
+  const QString format = formats_.takeFirst();
+  if (format != kMadeByQt) {
+    BeginDecoding(content->data(format));
+    return true;
+  }
+  const auto image = qvariant_cast<QImage>(content->imageData());
+  decoding_ = BeginBeside<Decoded>(
+      [image] { return image.isNull() ? nullptr : std::make_shared<const QtPicture>(image); });
+  return true;
+}
+
+void QtClipboard::BeginDecoding(const QByteArray& bytes) {
+  decoding_ = BeginBeside<Decoded>([bytes]() -> Decoded {
+    const QImage image =
+        DecodePicture({bytes.data(), static_cast<std::size_t>(bytes.size())}).image;
+    return image.isNull() ? nullptr : std::make_shared<const QtPicture>(image);
+  });
+}
 
 }  // namespace vellumark

@@ -10,7 +10,13 @@
 namespace vellumark {
 
 QString QtFilter(const QString& filter) {
-  return QStringLiteral("%1 (%2)").arg(filter.section(u'|', 0, 0), filter.section(u'|', 1));
+  const QStringList parts = filter.split(u'|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    filters.append(QStringLiteral("%1 (%2)").arg(parts[i], patterns.replace(u';', u' ')));
+  }
+  return filters.join(QStringLiteral(";;"));
 }
 
 std::optional<std::string> QtFileDialogs::Open(const FileDialogRequest& request) {

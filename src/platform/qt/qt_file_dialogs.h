@@ -35,7 +35,7 @@ class QtFileDialogs final : public FileDialogs {
   const std::string not_expressible_;
 };
 
-// A filter in the form description `|` pattern as Qt writes it, the pattern behind the description.
+// A request's filter as Qt writes it, the patterns behind each description.
 QString QtFilter(const QString& filter);
 
 }  // namespace vellumark

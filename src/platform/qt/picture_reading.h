@@ -1,0 +1,75 @@
+// Decoding and encoding pictures. They come from anywhere: what a file says of itself costs neither
+// time nor memory beyond the limits here.
+#ifndef VELLUMARK_PLATFORM_QT_PICTURE_READING_H_
+#define VELLUMARK_PLATFORM_QT_PICTURE_READING_H_
+
+#include <QImage>
+#include <QSize>
+#include <chrono>
+#include <functional>
+#include <future>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vellumark {
+
+// Of 100: a 4K screen-shot full of detail and noise keeps more than 35 dB, at a fraction of a
+// PNG's size.
+inline constexpr int kJpegQuality = 92;
+
+enum class PictureFault {
+  kNone,
+  kNotAPicture,
+  kDamaged,
+  kTooLarge,  // more than 32,767 pixels a side or 1 GiB decoded
+};
+
+struct DecodedPicture {
+  QImage image;  // null on a fault
+  PictureFault fault = PictureFault::kNone;
+};
+
+// Decodes the bytes of a picture file. One that is larger than `most` is scaled down to fit, while
+// it is decoded where its format can; an empty `most` takes it as it is.
+DecodedPicture DecodePicture(std::string_view bytes, QSize most = {});
+
+// The bytes of a JPEG file; nothing when the picture is null. What is transparent becomes black.
+std::optional<std::string> EncodeJpeg(const QImage& image);
+
+// A picture file's bytes as those of a JPEG file: the same where it is one, nothing where they are
+// no picture.
+std::optional<std::string> AsJpegFile(const std::string& bytes);
+
+// Begins work on another thread. Its answer can be waited for while the window is painted.
+template <typename Answer>
+std::shared_future<Answer> BeginBeside(std::function<Answer()> work);
+
+// Waits for work that BeginBeside began. When it takes long, the windows are painted meanwhile, but
+// take no input.
+template <typename Answer>
+Answer WaitPainting(const std::shared_future<Answer>& answer);
+
+void StartOnThread(std::function<void()> work);
+void PaintWindows();
+
+template <typename Answer>
+std::shared_future<Answer> BeginBeside(std::function<Answer()> work) {
+  const auto task = std::make_shared<std::packaged_task<Answer()>>(std::move(work));
+  StartOnThread([task] { (*task)(); });
+  return task->get_future().share();
+}
+
+template <typename Answer>
+Answer WaitPainting(const std::shared_future<Answer>& answer) {
+  auto patience = std::chrono::milliseconds(200);
+  while (answer.wait_for(patience) != std::future_status::ready) {
+    PaintWindows();
+    patience = std::chrono::milliseconds(20);
+  }
+  return answer.get();
+}
+
+}  // namespace vellumark
+
+#endif  // VELLUMARK_PLATFORM_QT_PICTURE_READING_H_
