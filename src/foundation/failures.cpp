@@ -29,6 +29,8 @@ std::string ReasonFor(FileError error) {
       return LoadMessage(kReasonNotEmpty);
     case FileError::kNotAFolder:
       return LoadMessage(kReasonNotAFolder);
+    case FileError::kIsAFolder:
+      return LoadMessage(kReasonFolder);
     case FileError::kInUse:
       return LoadMessage(kReasonInUse);
     case FileError::kTooShort:
@@ -44,7 +46,7 @@ std::string ReasonFor(FileError error) {
 Failure FailureOfCopy(FileSystem& files, const std::string& source, const std::string& target,
                       FileError error) {
   const bool is_readable = files.Read(source, 1).error == FileError::kNone;
-  return {is_readable ? target : source, error};
+  return {source, error, is_readable ? target : std::string()};
 }
 
 std::string DescribeFailures(const std::vector<Failure>& failures) {
@@ -56,6 +58,7 @@ std::string DescribeFailures(const std::vector<Failure>& failures) {
       return text + kLineBreak + LoadMessage(kMoreFailures, {left_out});
     }
     text += kLineBreak + LoadMessage(kFailureLine, {ReasonFor(failure.why), Quoted(failure.path)});
+    if (!failure.target.empty()) text += LoadMessage(kFailureAtTarget, {Quoted(failure.target)});
   }
   return text;
 }

@@ -12,6 +12,7 @@ namespace vellumark {
 struct Failure {
   std::string path;
   FileError why = FileError::kNone;
+  std::string target{};  // of a copy that failed at its target; empty where `path` is at fault
 
   bool operator==(const Failure&) const = default;
 };
@@ -20,13 +21,12 @@ struct Failure {
 // not what it should be, has words too.
 std::string ReasonFor(FileError error);
 
-// The failure of a copy, on the side that it is on: the source where that cannot be read, else the
-// target.
+// The failure to copy `source`, at its target unless the source cannot be read.
 Failure FailureOfCopy(FileSystem& files, const std::string& source, const std::string& target,
                       FileError error);
 
-// One line for each failure: the path in quotes and the reason. Long lists end with the number of
-// failures left out.
+// One line for each failure: the path in quotes and the reason, with the target where that failed.
+// Long lists end with the number of failures left out.
 std::string DescribeFailures(const std::vector<Failure>& failures);
 
 }  // namespace vellumark

@@ -275,6 +275,8 @@ constexpr TableMessage kOwnMessages[] = {
     {kOldNotDeleted, "it could not be deleted: ~1"},
 
     {kNotAllCopied,
+     "Warning: not everything could be put in folder ~1. These files could not be copied:"},
+    {kNotAllMoved,
      "Warning: not everything could be put in folder ~1. These files could not be copied, and "
      "nothing of their savegames has been deleted:"},
     {kMovedNotDeleted,
@@ -288,6 +290,7 @@ constexpr TableMessage kOwnMessages[] = {
 
     {kNothingOpens, "No program could be started that opens the file ~1"},
     {kFailureLine, "~2: ~1"},
+    {kFailureAtTarget, " (when writing ~1)"},
     {kMoreFailures, "... and ~1 more"},
 
     {kRescuedCommand, "Savegames set aside ..."},

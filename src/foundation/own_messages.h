@@ -164,15 +164,17 @@ enum OwnMessage : int {
 
   // Copy, move and delete
   kNotAllCopied,      // ~1 folder; followed by failure lines
+  kNotAllMoved,       // the same
   kMovedNotDeleted,   // followed by failure lines
   kTargetSetAside,    // ~1 folder, ~2 new folder
   kTargetNotDeleted,  // followed by failure lines
   kNotAllRemoved,     // followed by failure lines
 
   // Everywhere
-  kNothingOpens,  // ~1 file
-  kFailureLine,   // ~1 reason, ~2 path
-  kMoreFailures,  // ~1 number
+  kNothingOpens,     // ~1 file
+  kFailureLine,      // ~1 reason, ~2 path
+  kFailureAtTarget,  // ~1 file
+  kMoreFailures,     // ~1 number
 
   // The dialog of what was set aside
   kRescuedCommand,

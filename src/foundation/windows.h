@@ -29,9 +29,9 @@ class Windows {
   // Shows by the pointer whether an operation works without waiting for the user.
   virtual void ShowBusy(bool busy) = 0;
 
-  // Lets the windows paint themselves while an operation works; no input gets through. Cheap enough
-  // to be called for every savegame.
-  virtual void LetPaint() = 0;
+  // Lets the windows paint themselves while an operation works, and shows how far it is when that
+  // has taken half a second; no input gets through. Cheap enough to be called for every savegame.
+  virtual void ShowProgress(int done, int all) = 0;
 
   // True once the system has asked the program to end, also while an operation works.
   virtual bool SessionEnds() = 0;

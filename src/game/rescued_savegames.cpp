@@ -269,7 +269,7 @@ void PutRescuedIntoGame(Program& program, const std::vector<RescuedSavegame>& sa
     put = static_cast<int>(free.size() - copies.not_copied.size());
     if (!taken.empty()) report.Add(LoadMessage(kSlotsNotFree) + DescribeFailures(taken));
     if (!copies.not_copied.empty()) {
-      report.Add(LoadMessage(kNotAllCopied, {Quoted(game_folder)}) +
+      report.Add(LoadMessage(kNotAllMoved, {Quoted(game_folder)}) +
                  DescribeFailures(copies.not_copied));
     }
     if (!copies.not_deleted.empty()) {

@@ -43,15 +43,16 @@ void ChooseTarget(Program& program, CopyMode mode) {
   program.chooser.savegames.clear();
 }
 
-void ReportProblems(Program& program, const std::string& folder, const SelectedCopies& copies,
-                    const std::vector<Failure>& old_not_deleted) {
+void ReportProblems(Program& program, CopyMode mode, const std::string& folder,
+                    const SelectedCopies& copies, const std::vector<Failure>& old_not_deleted) {
   std::string text;
   const auto add = [&text](const std::string& paragraph) {
     if (!text.empty()) text += std::string(kLineBreak) + kLineBreak;
     text += paragraph;
   };
   if (!copies.not_copied.empty()) {
-    add(LoadMessage(kNotAllCopied, {Quoted(folder)}) + DescribeFailures(copies.not_copied));
+    const int text_of_mode = mode == CopyMode::kMove ? kNotAllMoved : kNotAllCopied;
+    add(LoadMessage(text_of_mode, {Quoted(folder)}) + DescribeFailures(copies.not_copied));
   }
   if (!copies.not_deleted.empty()) {
     add(LoadMessage(kMovedNotDeleted) + DescribeFailures(copies.not_deleted));
@@ -83,6 +84,8 @@ bool CopyOrMoveInto(Program& program, const std::string& folder, CopyMode mode) 
   std::vector<Failure> old_not_deleted;
   if (KeepTargetSavegames(program, folder, savegames, old_not_deleted)) renumber = true;
 
+  // Nothing is in front of the progress.
+  program.windows.CloseDialog(WindowId::kDialogGetDir);
   SelectedCopies copies;
   {
     const WorkScope working(program);
@@ -96,7 +99,7 @@ bool CopyOrMoveInto(Program& program, const std::string& folder, CopyMode mode) 
   }
   const auto count = static_cast<int>(savegames.size());
   Tell(program, LoadMessage(wording.report, {count}) + Quoted(folder));
-  ReportProblems(program, folder, copies, old_not_deleted);
+  ReportProblems(program, mode, folder, copies, old_not_deleted);
   return true;
 }
 

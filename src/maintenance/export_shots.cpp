@@ -68,11 +68,17 @@ class Export {
       const std::string stem = StemOf(*entry);
       if (SafePart(stem) == stem) NameFor(stem);
     }
+    int done = 0;
     for (const SavegameEntry* entry : entries_) {
-      program_.windows.LetPaint();
-      const FileError why =
-          IsEnding(program_) ? FileError::kStopped : Copy(entry->ShotPath, NameFor(StemOf(*entry)));
-      if (why != FileError::kNone) failures_.push_back({entry->ShotPath, why});
+      program_.windows.ShowProgress(done++, count());
+      if (IsEnding(program_)) {
+        failures_.push_back({entry->ShotPath, FileError::kStopped});
+        continue;
+      }
+      const std::string target = NameFor(StemOf(*entry));
+      const FileError why = Copy(entry->ShotPath, target);
+      if (why == FileError::kNone) continue;
+      failures_.push_back(FailureOfCopy(files_, entry->ShotPath, target, why));
     }
   }
 

@@ -11,6 +11,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/windows.h"
 #include "game/restore.h"
 #include "maintenance/copy_move.h"
 #include "maintenance/export_shots.h"
@@ -119,6 +120,7 @@ bool UseChosenFolder(Program& program) {
     case ChooserMode::kMove:
       return CopyOrMoveInto(program, chooser.ChosenFolder, CopyMode::kMove);
     case ChooserMode::kExportShots:
+      program.windows.CloseDialog(WindowId::kDialogGetDir);
       ExportLinkedShots(program, chooser.ChosenFolder);
       program.preferences.ShotFolder = chooser.ChosenFolder;
       break;
@@ -146,6 +148,19 @@ std::optional<FolderLines> EnterFolder(Program& program, const std::string& fold
   if (entered.error == FileError::kNone) return entered;
   RefuseFolder(program, folder, entered.error);
   return std::nullopt;
+}
+
+std::optional<FolderLines> EnterTypedFolder(Program& program, const EncodedText& typed) {
+  if (!typed.missing.empty()) {
+    Refuse(program, LoadMessage(kPathNotExpressible));
+    return std::nullopt;
+  }
+  const std::string folder = AsShownFolder(program.files.FromCommandLine(Trimmed(typed.bytes)));
+  if (folder.size() < 3 || folder[1] != ':') {
+    RefuseFolder(program, typed.bytes, FileError::kNotFound);
+    return std::nullopt;
+  }
+  return EnterFolder(program, folder);
 }
 
 FolderLines ChangeDrive(Program& program, char letter, const std::string& folder) {

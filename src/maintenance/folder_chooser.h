@@ -26,6 +26,9 @@ ChooserOpening OpenChooser(Program& program);
 // Goes to a folder, or reads it again. Empty, after telling the user why, when it cannot be read.
 std::optional<FolderLines> EnterFolder(Program& program, const std::string& folder);
 
+// The same for a folder as the user types or pastes it, in the system's own form too.
+std::optional<FolderLines> EnterTypedFolder(Program& program, const EncodedText& typed);
+
 // Goes to another drive: to the current folder when that is there, else to the root. When the drive
 // cannot be read the user is told, and the answer is `folder`, read again.
 FolderLines ChangeDrive(Program& program, char letter, const std::string& folder);

@@ -149,12 +149,13 @@ bool NewArchive::HasFolder(int number) {
 
 bool NewArchive::CopyFile(const File& file, int folder) {
   // Nothing is replaced, so it needs no detour over a temporary name.
-  const FileError error =
-      program_.files.CopyVerified(file.source, InFolder(FolderNow(folder), file.name));
+  const std::string target = InFolder(FolderNow(folder), file.name);
+  const FileError error = program_.files.CopyVerified(file.source, target);
   if (error == FileError::kNone) {
     made_[static_cast<std::size_t>(folder) - 1].push_back(file.name);
   } else {
-    not_copied.push_back({file.source, error});
+    const std::string shown = InFolder(Folder(folder), file.name);
+    not_copied.push_back(FailureOfCopy(program_.files, file.source, shown, error));
   }
   return error == FileError::kNone;
 }

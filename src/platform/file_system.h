@@ -31,6 +31,7 @@ enum class FileError {
   kAmbiguous,      // the folder holds the name twice, in different letter case
   kNotEmpty,       // a folder to be removed still holds something
   kNotAFolder,     // a file stands where a folder should
+  kIsAFolder,      // a folder stands where a file should be read or made
   kInUse,          // another program holds the file
   kTooShort,       // the file ends before the place that was to be changed
   kStopped,        // the session ends: the operation did not come to it

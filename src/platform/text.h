@@ -35,7 +35,8 @@ class Text {
   virtual std::string Upper(std::string_view bytes) const = 0;
   virtual std::string Lower(std::string_view bytes) const = 0;
 
-  // Equal without regard to case, by the code page's rules.
+  // Equal without regard to case, by the code page's rules: the letters A to Z are a to z in every
+  // language.
   virtual bool EqualNoCase(std::string_view a, std::string_view b) const = 0;
 
   // Every byte by itself as one and the same for all its cases: two texts are EqualNoCase exactly

@@ -51,7 +51,7 @@ class Copier {
     std::vector<CopiedSavegame> moved;
     int position = 0;
     for (const SavegameFiles& savegame : savegames) {
-      program_.windows.LetPaint();
+      program_.windows.ShowProgress(position, static_cast<int>(savegames.size()));
       int slot = renumber ? position : savegame.slot;
       ++position;
       FileError no_number = probe ? FindFreeNumber(slot) : FileError::kNone;
@@ -120,7 +120,7 @@ class Copier {
     CopiedSavegame copied;
     FileError error = CopyFile(savegame.savegame, SavegameFileName(slot), copied);
     if (error != FileError::kNone) {
-      copies_.not_copied.push_back({savegame.savegame, error});
+      NoteFailure(savegame.savegame, SavegameFileName(slot), error);
       return std::nullopt;
     }
     bool whole = true;
@@ -128,7 +128,7 @@ class Copier {
                                      std::pair(savegame.shot, ShotFileName(slot))}) {
       error = CopyFile(from, name, copied);
       if (error == FileError::kNone || error == FileError::kNotFound) continue;
-      copies_.not_copied.push_back({from, error});
+      NoteFailure(from, name, error);
       whole = false;
     }
     return whole ? std::optional(copied) : std::nullopt;
@@ -150,6 +150,7 @@ class Copier {
         return FileError::kNone;
       }
       const bool other_file = identity && old_identity && old.attributes.IsPlainFile();
+      if (old.attributes.folder) return FileError::kIsAFolder;
       if (!other_file) return FileError::kAlreadyExists;
       if (!SameContent(files_, from, to)) why = MakeRoom(to);
     }
@@ -162,6 +163,10 @@ class Copier {
     copies_.targets.push_back(to);
     copied.push_back({from, to});
     return FileError::kNone;
+  }
+
+  void NoteFailure(const std::string& from, const std::string& name, FileError error) {
+    copies_.not_copied.push_back(FailureOfCopy(files_, from, InFolder(folder_, name), error));
   }
 
   // Sets a file aside whose content the copy would replace; kNotFound when its place is free then.
@@ -177,8 +182,9 @@ class Copier {
       for (const CopiedFile& file : savegame) written.push_back(file.to);
     }
     const FileError flush = written.empty() ? FileError::kNone : files_.Flush(written);
+    int done = 0;
     for (const CopiedSavegame& savegame : savegames) {
-      program_.windows.LetPaint();
+      program_.windows.ShowProgress(done++, static_cast<int>(savegames.size()));
       DeleteSource(savegame, IsEnding(program_) ? FileError::kStopped : flush);
     }
   }

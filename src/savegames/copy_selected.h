@@ -17,7 +17,7 @@ enum class CopyMode { kCopy, kMove };
 
 struct SelectedCopies {
   std::vector<std::string> targets;    // the files that arrived and were read back equal
-  std::vector<Failure> not_copied;     // source files whose copy did not arrive
+  std::vector<Failure> not_copied;     // the side on which a copy failed
   std::vector<Failure> not_deleted;    // a move: copied, but still where they were
   std::vector<std::string> set_aside;  // files of `folder` whose names the copies have taken
   std::string rescue_folder;           // where they are now

@@ -31,7 +31,7 @@ SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::st
     if (copied) {
       copies.targets.push_back(to);
     } else {
-      copies.failures.push_back({from, why});
+      copies.failures.push_back(FailureOfCopy(files, from, to, why));
     }
     return copied;
   };

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "archive/archive_properties.h"
+#include "foundation/own_messages.h"
 #include "program.h"
 #include "ui/controls.h"
 #include "ui/path_label.h"
@@ -93,8 +94,7 @@ void ArchivePropertiesDialog::ChooseExecutable() {
 }
 
 void ArchivePropertiesDialog::Accept() {
-  // A base name with characters that the code page lacks becomes one that no disk can hold, which
-  // is refused.
+  if (!IsExpressible(base_name_, kFolderNameNotExpressible)) return;
   const ArchivePropertiesFields fields{.main_folder = FromText(main_folder_->text()),
                                        .base_name = FromText(base_name_->text()),
                                        .game_folder = FromText(game_folder_->text()),

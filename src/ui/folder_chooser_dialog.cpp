@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -32,7 +33,7 @@ FolderChooserDialog::FolderChooserDialog(Program& program)
       name_(Named(new QLineEdit(this), "Text_NomeCartella")),
       ok_(Named(new QPushButton(this), "OKButton")),
       cancel_(Named(new QPushButton(this), "CancelButton")) {
-  path_->setReadOnly(true);
+  path_->installEventFilter(this);
   name_->installEventFilter(this);
   ok_->setDefault(true);
   BuildLayout();
@@ -88,8 +89,16 @@ void FolderChooserDialog::ImpostaValori() {
   if (opening.shows_path) path_->setText(ToText(folders_->Folder()));
 }
 
-// While the user types a name, Enter makes the folder instead of taking the one that is shown.
+// While the user types a name, Enter makes the folder instead of taking the one that is shown;
+// after a path it goes there.
 bool FolderChooserDialog::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == path_) {
+    if (event->type() != QEvent::KeyPress || !path_->isModified()) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    GoToTyped();
+    return true;
+  }
   if (event->type() == QEvent::FocusIn) create_->setDefault(true);
   if (event->type() == QEvent::FocusOut) ok_->setDefault(true);
   return ModalDialog::eventFilter(watched, event);
@@ -124,6 +133,18 @@ void FolderChooserDialog::GoTo(const std::string& path) {
   if (auto folder = EnterFolder(program(), path)) ChangeFolder(std::move(*folder));
 }
 
+// False when the path that was typed leads nowhere, which the user was told.
+bool FolderChooserDialog::GoToTyped() {
+  auto folder = EnterTypedFolder(program(), program().text.FromUtf8(path_->text().toStdString()));
+  if (!folder) {
+    path_->setFocus();
+    return false;
+  }
+  ShowFolder(std::move(*folder));
+  path_->setText(ToText(folders_->Folder()));
+  return true;
+}
+
 void FolderChooserDialog::GoToDrive(int index) {
   const QChar letter = drives_->itemData(index).toChar();
   if (letter == DriveOf(folders_->Folder())) return;
@@ -155,6 +176,7 @@ void FolderChooserDialog::MarkCharacter(const std::string& character) {
 }
 
 void FolderChooserDialog::Take() {
+  if (path_->isModified() && !GoToTyped()) return;
   if (TakeFolder(program(), folders_->Folder())) accept();
 }
 

@@ -30,6 +30,7 @@ class FolderChooserDialog final : public ModalDialog {
   void ShowFolder(FolderLines folder);
   void ShowDriveOfFolder();
   void GoTo(const std::string& path);
+  bool GoToTyped();
   void GoToDrive(int index);
   void Reread();
   void MakeFolder();

@@ -1,5 +1,10 @@
 #include "ui/modal_dialog.h"
 
+#include <QLineEdit>
+
+#include "foundation/messages.h"
+#include "foundation/sound_effects.h"
+#include "foundation/talk.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
@@ -27,6 +32,18 @@ QString ModalDialog::ToText(const std::string& text) const {
 
 std::string ModalDialog::FromText(const QString& text) const {
   return program_.text.FromUtf8(text.toStdString()).bytes;
+}
+
+bool ModalDialog::IsExpressible(QLineEdit* field, int refusal) {
+  const EncodedText text = program_.text.FromUtf8(field->text().toStdString());
+  if (text.missing.empty()) return true;
+  const QString marked = QString::fromStdString(text.missing.front());
+  PlaySoundEffect(program_, SoundEffect::kRefusal);
+  Tell(program_, LoadMessage(refusal), BoxIcon::kCritical);
+  field->setFocus();
+  field->setSelection(static_cast<int>(field->text().indexOf(marked)),
+                      static_cast<int>(marked.size()));
+  return false;
 }
 
 }  // namespace vellumark

@@ -8,6 +8,8 @@
 
 #include "foundation/caption_map.h"
 
+class QLineEdit;
+
 namespace vellumark {
 
 struct Program;
@@ -33,6 +35,10 @@ class ModalDialog : public QDialog {
   // express; what it lacks becomes a question mark.
   QString ToText(const std::string& text) const;
   std::string FromText(const QString& text) const;
+
+  // True when the code page can express what stands in a field; else the user is told by this
+  // message, and the character is marked.
+  bool IsExpressible(QLineEdit* field, int refusal);
 
   Program& program() const { return program_; }
 

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
@@ -46,6 +47,7 @@ namespace {
 
 constexpr int kTimerInterval = 500;  // milliseconds
 constexpr int kPaintInterval = 100;  // milliseconds
+constexpr int kProgressDelay = 500;
 
 QLineEdit* NumberField(const char* name, QWidget* parent, const QString& widest) {
   auto* field = new ReadOnlyField(name, parent);
@@ -58,6 +60,11 @@ QLabel* LabelFor(const char* name, QWidget* buddy) {
   auto* label = Named(new QLabel(buddy->parentWidget()), name);
   label->setBuddy(buddy);
   return label;
+}
+
+void ReplaceWidget(QWidget* shown, QWidget* other) {
+  shown->hide();
+  other->show();
 }
 
 QPushButton* Button(const char* name, QWidget* parent) {
@@ -173,6 +180,9 @@ QWidget* Principale::BuildPathLine() {
   path_ = new ReadOnlyField("Text_PathSavegame", line);
   row->addWidget(LabelFor("Label4", path_));
   row->addWidget(path_, 1);
+  progress_ = Named<QProgressBar>("ProgressBar1", line);
+  progress_->hide();
+  row->addWidget(progress_, 1);
   return line;
 }
 
@@ -359,13 +369,23 @@ void Principale::CloseDialog(WindowId window) {
 }
 
 void Principale::ShowBusy(bool busy) {
-  if (!busy) return QApplication::restoreOverrideCursor();
+  if (!busy) {
+    ReplaceWidget(progress_, path_);
+    return QApplication::restoreOverrideCursor();
+  }
   QApplication::setOverrideCursor(Qt::WaitCursor);
   painted_.start();
+  working_.start();
 }
 
-void Principale::LetPaint() {
+void Principale::ShowProgress(int done, int all) {
   if (!program_->working || !painted_.hasExpired(kPaintInterval)) return;
+  if (working_.hasExpired(kProgressDelay)) {
+    progress_->setRange(0, all);
+    progress_->setValue(done);
+    progress_->setFixedHeight(path_->height());
+    ReplaceWidget(path_, progress_);
+  }
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                   QEventLoop::ExcludeSocketNotifiers);
   painted_.start();

@@ -17,6 +17,7 @@ class QAction;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
+class QProgressBar;
 
 namespace vellumark {
 
@@ -53,7 +54,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void ShowModeless(WindowId dialog) override;
   void CloseDialog(WindowId window) override;
   void ShowBusy(bool busy) override;
-  void LetPaint() override;
+  void ShowProgress(int done, int all) override;
   bool SessionEnds() override;
 
  signals:
@@ -90,7 +91,9 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   QLineEdit* total_folders_ = nullptr;
   QLineEdit* found_ = nullptr;
   QTimer timer_;
-  QElapsedTimer painted_;  // since the windows were last let paint
+  QProgressBar* progress_ = nullptr;  // in the place of the path while an operation takes long
+  QElapsedTimer working_;             // since the operation has begun
+  QElapsedTimer painted_;             // since the windows were last let paint
   QPointer<ScreenShotViewer> viewer_;
   std::map<WindowId, QPointer<QDialog>> open_dialogs_;  // those that are shown
 };

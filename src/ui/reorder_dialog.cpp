@@ -148,6 +148,8 @@ void ReorderDialog::Browse() {
 }
 
 void ReorderDialog::Reorder() {
+  if (!IsExpressible(base_path_, kPathNotExpressible)) return;
+  if (!IsExpressible(folder_name_, kFolderNameNotExpressible)) return;
   if (ReorderArchive(program(), settings_, [this](int percent) { ShowProgress(percent); })) {
     accept();
   } else {

@@ -10,7 +10,7 @@ ScreenShotViewer::ScreenShotViewer(FileSystem& files, QWidget* main_window)
   setObjectName(QStringLiteral("Dialog_ScreenShot"));
   picture_->setObjectName(QStringLiteral("Image1"));
   connect(picture_, &PictureBox::Arrived, this, [this] {
-    if (size() == opened_) Open();
+    if (size() == opened_) ResizeForPicture();
   });
   setAttribute(Qt::WA_DeleteOnClose);
   setMinimumSize(160, 120);
@@ -19,14 +19,14 @@ ScreenShotViewer::ScreenShotViewer(FileSystem& files, QWidget* main_window)
 void ScreenShotViewer::ShowPicture(const std::string& path) {
   picture_->ShowFile(path);
   setWindowTitle(QString());
-  if (!isVisible()) Open();
+  if (!isVisible()) ResizeForPicture();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
 }
 
-void ScreenShotViewer::Open() {
+void ScreenShotViewer::ResizeForPicture() {
   opened_ = OpeningSize();
   resize(opened_);
 }

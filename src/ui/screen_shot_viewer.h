@@ -23,7 +23,7 @@ class ScreenShotViewer final : public QDialog {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void Open();
+  void ResizeForPicture();
   QSize OpeningSize() const;
 
   QSize opened_;  // as it opened; the user may have changed it

@@ -346,7 +346,8 @@ TEST_F(PlayTest, ARefusedPlayLeavesNothing) {
 TEST_F(PlayTest, StopsWhenAnOwnSlotCannotBePutAside) {
   files.FailAlways("Copy", "savegame.16", FileError::kDiskFull);
   Play();
-  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Program\\temp\\savegame.16\": the disk is full"));
+  EXPECT_TRUE(
+      Contains(boxes.AllTexts(), "is full (when writing \"T:\\Program\\temp\\savegame.16\")"));
   EXPECT_EQ(InGame(), own);
   EXPECT_FALSE(program->play.ExaminedInGameFolder);
   EXPECT_EQ(program->catalogue.entries.back().SavegamePath, "t:\\game\\savegame.3");

@@ -68,6 +68,7 @@ TEST_F(CopyMoveTest, ThePointerIsBusyWhileFilesAreCopiedAndNeverWhileTheUserIsAs
   boxes.while_waiting = [this] { EXPECT_FALSE(windows.looks_busy); };
   RunCommand(MoveSelection, {1, 2}, "T:\\Target", {BoxAnswer::kOk});
   EXPECT_GE(windows.painted_busy, 4) << "two savegames, copied and then deleted";
+  EXPECT_EQ(windows.events.back(), std::pair(std::string("close"), WindowId::kDialogGetDir));
   EXPECT_FALSE(windows.looks_busy);
 }
 
@@ -199,8 +200,15 @@ TEST_F(CopyMoveTest, WhatCannotBeWrittenStaysAndIsNamedOnce) {
   EXPECT_EQ(boxes.shown[1].text, "Moved2 savegames in \"T:\\Target\"");
   EXPECT_EQ(program.catalogue.EntryCount(), 2);
   const std::string& said = boxes.shown[2].text;
-  EXPECT_TRUE(Contains(said, "\"t:\\archive\\slot1\\savegame.3\": the disk is full"));
+  EXPECT_TRUE(Contains(said,
+                       "\"t:\\archive\\slot1\\savegame.3\": the disk is full (when "
+                       "writing \"T:\\Target\\savegame.3\")"));
+  EXPECT_TRUE(Contains(said, "has been deleted"));
   EXPECT_EQ(boxes.shown[2].icon, BoxIcon::kExclamation);
+
+  boxes.shown.clear();
+  RunCommand(CopySelection, {0}, "T:\\Target", {kNo});
+  EXPECT_FALSE(Contains(boxes.AllTexts(), "deleted")) << "a copy deletes nothing";
 }
 
 // What identifies a savegame: its bytes with those of its note and screen-shot, wherever they are.

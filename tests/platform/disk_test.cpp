@@ -41,6 +41,8 @@ TEST_F(DiskTest, ReadsFilesThatAreLongerThanABlock) {
 
   const auto reader = fs_.OpenFolder("T:\\");
   EXPECT_EQ(reader->Read(reader->Contents().entries[0], FileSystem::kWholeFile).bytes, bytes);
+  disk_.MakeFolder("folder");
+  EXPECT_EQ(fs_.Read("T:\\folder", 1).error, FileError::kIsAFolder);
 }
 
 TEST_F(DiskTest, AFolderHasOneLockAtATime) {

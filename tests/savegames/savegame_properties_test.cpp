@@ -208,6 +208,11 @@ TEST_F(SavegamePropertiesTest, WhenATypedNoteCannotBeWrittenNothingElseIsDone) {
   EXPECT_EQ(disk.AllFiles(), before);
   EXPECT_EQ(Apply("13"), ChangesAnswer::kDone) << "nothing of a note as it was can be lost";
   EXPECT_EQ(entry().InternalCounter, 13);
+
+  disk.Remove({"Archive/note3.txt"});
+  disk.MakeFolder("Archive/note3.txt");
+  EXPECT_EQ(Apply("13", TypedNote{.stored = "new"}), ChangesAnswer::kNoteNotWritten);
+  EXPECT_TRUE(Contains(LastBox(), "note3.txt\": it is a folder"));
 }
 
 TEST_F(SavegamePropertiesTest, AChosenPictureIsCopiedAtOnce) {

@@ -160,7 +160,9 @@ class ScriptedWindows final : public MainWindow, public Windows {
   }
   void CloseDialog(WindowId window) override { events.push_back({"close", window}); }
   void ShowBusy(bool busy) override { looks_busy = busy; }
-  void LetPaint() override { painted_busy += looks_busy ? 1 : 0; }
+  void ShowProgress(int done, int all) override {
+    painted_busy += looks_busy && done < all ? 1 : 0;
+  }
   bool SessionEnds() override { return painted_busy >= ends_after_painting; }
 
   std::vector<std::string> lines;

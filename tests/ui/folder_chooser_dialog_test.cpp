@@ -3,6 +3,8 @@
 
 #include <QComboBox>
 
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "ui/folder_list.h"
 #include "ui/window_fixture.h"
 
@@ -16,6 +18,7 @@ class FolderChooserDialogTest : public WindowFixture {
   void KeysWalkThroughTheFolders();
   void AClickGoesToAFolderOnce();
   void OkTakesTheFolderOfThePathLine();
+  void APathCanBeTyped();
   void ThePlainModeIsShownUnprepared();
   void ADriveThatIsNotReadyLeadsBack();
   void ANewFolderIsMadeFromTheNameField();
@@ -121,6 +124,33 @@ void FolderChooserDialogTest::OkTakesTheFolderOfThePathLine() {
   });
   QVERIFY(!program_->chooser.Confirmed);
   QCOMPARE(program_->chooser.field, std::string("T:\\Archive"));
+}
+
+void FolderChooserDialogTest::APathCanBeTyped() {
+  world_->disk.MakeFolder("Archive/Old");
+  const auto type = [this](const QString& path) {
+    auto* line = Find<QLineEdit>("Text_Path");
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, path);
+  };
+  InChooser(ChooserMode::kMainFolder, "T:\\Archive", [&] {
+    type(QStringLiteral("T:\\none"));
+    Press(Qt::Key_Return);
+    QCOMPARE(LastMessage(),
+             LoadMessage(kFolderNotOpened, {"\"T:\\none\"", LoadMessage(kReasonNotFound)}));
+    QCOMPARE(List()->Folder(), std::string("T:\\Archive"));
+
+    type(QString::fromStdString((world_->disk.path() / "Archive" / "Old").string()));
+    Press(Qt::Key_Return);
+    QVERIFY2(dialog_->isVisible(), "Enter goes there and does not press OK");
+    QCOMPARE(Path(), QStringLiteral("T:\\Archive\\Old"));
+    QCOMPARE(List()->Folder(), std::string("T:\\Archive\\Old"));
+    type(QStringLiteral("T:\\Game"));
+    Click("OKButton");
+    QTRY_VERIFY(!dialog_->isVisible());
+  });
+  QCOMPARE(program_->chooser.field, std::string("T:\\Game"));
 }
 
 void FolderChooserDialogTest::ThePlainModeIsShownUnprepared() {

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 
 #include "foundation/working.h"
 #include "platform/qt/opener.h"
@@ -32,6 +33,7 @@ class PrincipaleTest : public WindowFixture {
   void AWorkingWindowPaintsItselfButDoesNotClose();
   void ARowShowsControlCharactersAsMarksOrBlanks();
   void RescanKeepsNothingOfTheOldList();
+  void LongWorkShowsItsProgressInThePlaceOfThePath();
   void TheViewerShowsThePictureOfItsOpening();
   void TheWindowFitsSmallScreensAndLarge();
   void HelpOpensTheTextBesideTheProgram();
@@ -227,7 +229,7 @@ void PrincipaleTest::AWorkingWindowPaintsItselfButDoesNotClose() {
     List()->viewport()->update();
     QTest::qSleep(200);
     QCOMPARE(counter.painted, 0);
-    window_->LetPaint();
+    window_->ShowProgress(0, 1);
     QVERIFY(counter.painted > 0);
     QVERIFY(!window_->close());
   }
@@ -280,6 +282,22 @@ void PrincipaleTest::RescanKeepsNothingOfTheOldList() {
   QCOMPARE(list->model()->rowCount(), 4);
   QCOMPARE(list->SelectedLines(), std::vector<int>{0});
   QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
+}
+
+void PrincipaleTest::LongWorkShowsItsProgressInThePlaceOfThePath() {
+  auto* progress = Find<QProgressBar>("ProgressBar1");
+  const QSize size = window_->size();
+  {
+    const WorkScope working(*program_);
+    window_->ShowProgress(1, 10);
+    QVERIFY(!progress->isVisible());
+    QTest::qSleep(600);
+    window_->ShowProgress(3, 10);
+    QVERIFY(progress->isVisible() && !Find<QLineEdit>("Text_PathSavegame")->isVisible());
+    QCOMPARE(progress->value() * 10, progress->maximum() * 3);
+  }
+  QVERIFY(!progress->isVisible() && Find<QLineEdit>("Text_PathSavegame")->isVisible());
+  QCOMPARE(window_->size(), size);
 }
 
 void PrincipaleTest::TheViewerShowsThePictureOfItsOpening() {

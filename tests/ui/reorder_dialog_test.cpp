@@ -4,6 +4,8 @@
 #include <QProgressBar>
 #include <QTimer>
 
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "ui/window_fixture.h"
 
 namespace vellumark {
@@ -77,7 +79,7 @@ void ReorderDialogTest::ARefusalLeavesTheDialogOpen() {
     QCOMPARE(world_->boxes.shown.size(), std::size_t{1});
     Find<QLineEdit>(dialog, "Text_NomeCartelle")->setText(QString(QChar(0x0416)));
     Click(dialog, "Pul_Riordina");
-    QCOMPARE(world_->boxes.shown.size(), std::size_t{2});
+    QCOMPARE(world_->boxes.shown.back().text, LoadMessage(kFolderNameNotExpressible));
   });
   QVERIFY2(cancelled_, "the code page lacks the name's letter");
   QVERIFY(world_->disk.Names("New").empty());

@@ -1,5 +1,7 @@
 // The archive properties dialog and the preferences dialog, opened from the main window's menus.
 
+#include "foundation/messages.h"
+#include "foundation/own_messages.h"
 #include "ui/window_fixture.h"
 
 namespace vellumark {
@@ -41,7 +43,7 @@ void SettingsDialogsTest::PropertiesThatAreRefusedOrCancelledChangeNothing() {
     Find<QLineEdit>(dialog, "Text_nome_dir")->setText(QString(QChar(0x0416)));
     Click(dialog, "Pul_Ok");
     QVERIFY2(dialog->isVisible(), "the code page lacks the name's letter");
-    QCOMPARE(world_->boxes.shown.size(), std::size_t{2});
+    QCOMPARE(world_->boxes.shown.back().text, LoadMessage(kFolderNameNotExpressible));
 
     Type(dialog, "Text_nome_dir", "Other");
     Click(dialog, "Pul_Cancel");

@@ -81,11 +81,15 @@ CodePageText::CodePageText(int code_page, std::string_view language, bool substi
   path_ = lower_;
 
   AddOneWayUppers();
-  const bool turkish = language == "tr" || language == "az";
-  if (turkish && code_page_ == kTurkishCodePage) UseTurkishCases();
-
   for (std::size_t byte = 0; byte < fold_.size(); ++byte) {
     fold_[byte] = lower_[Index(upper_[byte])];
+  }
+  // In these languages the dotted and the dotless i are two letters. Comparing counts all four of
+  // them as one, as the names of levels are English.
+  const bool turkish = language == "tr" || language == "az";
+  if (turkish && code_page_ == kTurkishCodePage) {
+    UseTurkishCases();
+    fold_[ByteOf(u'\u0130')] = 'i';
   }
 }
 

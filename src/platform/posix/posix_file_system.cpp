@@ -130,6 +130,7 @@ std::unique_ptr<FolderReader> PosixFileSystem::OpenFolder(const std::string& fol
 ReadResult PosixFileSystem::Read(const std::string& path, std::size_t limit) {
   const PathStatus found = Status(path);
   if (found.error != FileError::kNone && !found.dead_link) return {found.error, {}};
+  if (!found.dead_link && S_ISDIR(found.status.st_mode)) return {FileError::kIsAFolder, {}};
   // A pipe or a device could keep the caller waiting for ever.
   if (found.dead_link || !S_ISREG(found.status.st_mode)) return {FileError::kAccessDenied, {}};
 

@@ -72,8 +72,9 @@ void QtClipboard::Begin() {
   formats_.clear();
   if (content != nullptr) {
     formats_ = content->formats().filter(QRegularExpression(QStringLiteral("^image/")));
-    std::ranges::stable_partition(
-        formats_, [](const QString& format) { return format == QLatin1String("image/png"); });
+    std::stable_partition(formats_.begin(), formats_.end(), [](const QString& format) {
+      return format == QLatin1String("image/png");
+    });
     if (content->hasImage()) formats_.append(kMadeByQt);
   }
   if (formats_.isEmpty()) {

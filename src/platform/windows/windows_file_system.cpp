@@ -125,7 +125,13 @@ ReadResult WindowsFileSystem::Read(const std::string& path, std::size_t limit) {
   const CheckedPath checked = PathToLookFor(path);
   if (checked.error != FileError::kNone) return {checked.error, {}};
   const FileHandle file = OpenExisting(checked.wide, GENERIC_READ);
-  if (!file.IsOpen()) return {ErrorUnless(false, checked.wide), {}};
+  if (!file.IsOpen()) {
+    const FileError error = ErrorUnless(false, checked.wide);
+    const DWORD attributes = GetFileAttributesW(checked.wide.c_str());
+    const bool folder =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return {folder ? FileError::kIsAFolder : error, {}};
+  }
   return ReadUpTo(file, limit);
 }
 
