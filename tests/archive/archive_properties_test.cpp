@@ -92,7 +92,9 @@ TEST_F(ArchivePropertiesTest, TheExecutableIsAskedForInTheGameFolder) {
   EXPECT_EQ(dialogs.requests[0].start_folder, "C:\\Game");
   EXPECT_EQ(ChooseGameExecutable(program, ""), std::nullopt);
   EXPECT_TRUE(boxes.shown.empty());
+  sounds.Take();
   EXPECT_EQ(ChooseGameExecutable(program, ""), std::nullopt) << "the archive file would cut it";
+  EXPECT_EQ(sounds.Take(), "s7|s5|");
   EXPECT_EQ(boxes.shown.size(), 1U);
 }
 

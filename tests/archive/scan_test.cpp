@@ -30,6 +30,7 @@ class ScanTest : public ::testing::Test, public OpenWorld {
 
 TEST_F(ScanTest, TakesNumberedSubfoldersUpToTheFirstGapAndFilesKeepTheirNumbers) {
   program.archive.settings.MainFolder = " T:\\Archive ";
+  program.archive.settings.GameFolder = " T:\\Game ";
   disk.Write("Archive/slot1/SAVEGAME.3", SavegameBytes("Tower", 12));
   disk.Write("Archive/slot1/NOTE3.TXT", "a note\r\n");
   disk.Write("Archive/slot1/SaveGame.12", SavegameBytes("Tower", 13));

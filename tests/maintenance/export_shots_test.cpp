@@ -95,8 +95,11 @@ TEST_F(ExportShotsTest, AScreenShotThatCannotBeLookedUpIsNamed) {
 TEST_F(ExportShotsTest, TheChooserExportsIntoItsFolderAndKeepsItForTheNextTime) {
   Add("Archive/Slot1", 0, "Tower", 3);
   Rescan();
-  program.chooser.FolderChooserMode = ChooserMode::kExportShots;
-  EXPECT_TRUE(TakeFolder(program, "T:\\Shots"));
+  windows.in_dialog = [this](WindowId dialog) {
+    EXPECT_EQ(dialog, WindowId::kDialogGetDir);
+    EXPECT_TRUE(TakeFolder(program, "T:\\Shots"));
+  };
+  ChooseExportFolder(program);
   EXPECT_TRUE(disk.Exists("Shots/Tower_3.jpg"));
   EXPECT_EQ(program.preferences.ShotFolder, "T:\\Shots");
 }

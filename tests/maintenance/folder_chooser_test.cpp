@@ -216,6 +216,7 @@ TEST_F(FolderChooserTest, AFolderThatHasVanishedIsNotTaken) {
   EXPECT_EQ(TakeRefusal(), "The folder \"T:\\Game\" cannot be opened: it does not exist.");
   disk.Write("Game", "a file");
   EXPECT_FALSE(TakeFolder(program, "T:\\Game"));
+  EXPECT_EQ(TakeRefusal(), "The folder \"T:\\Game\" cannot be opened: it does not exist.");
   EXPECT_FALSE(program.chooser.Confirmed);
   EXPECT_EQ(program.chooser.ChosenFolder, "T:\\Archive");
 }

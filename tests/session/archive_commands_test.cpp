@@ -155,6 +155,7 @@ TEST_F(ArchiveCommandsTest, NewStartsFromItsDefaultsAndTakesTheDialogsOk) {
     AnswerWithOk();
   };
   NewArchive(program);
+  EXPECT_EQ(Stored("Archive.vmk").SavegameCount, 2) << "the changed archive was saved first";
   EXPECT_EQ(prepared_with, (ArchiveSettings{"Slot", "", "", "", 15, 0}));
   EXPECT_EQ(prepared_path, "T:\\Program\\NoName.vmk");
   EXPECT_EQ(program.catalogue.EntryCount(), 1) << "the game folder's savegame";

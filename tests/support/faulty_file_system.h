@@ -68,7 +68,7 @@ class FaultyFileSystem final : public FileSystem {
     return Pass("Copy", source, [&] { return real_.Copy(source, target); });
   }
   FileError Flush(const std::vector<std::string>& paths) override {
-    return Pass("Flush", "", [&] { return real_.Flush(paths); });
+    return Pass("Flush", paths.empty() ? "" : paths.back(), [&] { return real_.Flush(paths); });
   }
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override {
     return Pass("Rename", from, [&] { return real_.Rename(from, to, mode); });

@@ -359,6 +359,9 @@ void PrincipaleTest::HelpOpensTheTextBesideTheProgram() {
   Find<QAction>("mnu_ShowHelp")->trigger();
   QCOMPARE(world_->shell.opened.size(), std::size_t{1});
   QVERIFY(world_->shell.opened[0].document.ends_with("/Program/help_savegame.txt"));
+  world_->shell.answer = false;
+  Find<QAction>("mnu_ShowHelp")->trigger();
+  QVERIFY(world_->boxes.shown.back().text.starts_with("No program could be started"));
 }
 
 void PrincipaleTest::ClosingShutsDownOnce() {
