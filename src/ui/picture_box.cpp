@@ -122,7 +122,7 @@ void PictureBox::PaintWords() {
   if (words_.isEmpty()) return;
   constexpr int kMargin = 8;
   QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+  painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
                    Qt::AlignCenter | Qt::TextWordWrap, words_);
 }
