@@ -145,6 +145,20 @@ TEST_F(StartUpTest, SlotsLeftInTheBackupFolderAreSetAside) {
   EXPECT_TRUE(Contains(boxes.shown[0].text, "\"T:\\Program\\rescued\\2\""));
 }
 
+TEST_F(StartUpTest, AFileInThePlaceOfAFolderIsNamed) {
+  disk.Write("Program/temp", "a file");
+  Started();
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "temp\" cannot be used: it is a file, not a folder"));
+
+  boxes.shown.clear();
+  disk.Remove({"Program/temp"});
+  disk.Write("Program/rescued", "a file");
+  AddSavegame("Program/temp", 3, "Left", 1);
+  Started();
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "rescued\": it is a file, not a folder"));
+  EXPECT_TRUE(disk.Exists("Program/temp/savegame.3"));
+}
+
 TEST_F(StartUpTest, OfBackedUpSlotsThatCannotBeMovedNothingIsSaidToHaveBeen) {
   disk.Write("Program/temp/savegame.3", "own savegame");
   files.FailAlways("Delete", "temp\\savegame.3", FileError::kInUse);
