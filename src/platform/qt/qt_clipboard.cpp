@@ -15,6 +15,8 @@ namespace {
 
 // Stands among the names of formats for a picture that Qt makes of what it knows.
 const QString kMadeByQt = QStringLiteral("application/x-qt-image");
+// The same for what the system has in a form of its own, of which Qt may make nothing.
+const QString kMadeBySystem = QStringLiteral("system");
 
 QImage MakePreview(const QImage& image) {
   constexpr QSize kLargeScreen(3840, 2160);
@@ -77,20 +79,21 @@ void QtClipboard::Begin() {
     });
     if (content->hasImage()) formats_.append(kMadeByQt);
   }
-  if (formats_.isEmpty()) {
-    const std::string bytes = ClipboardAsBmpFile();
-    begun_ = !bytes.empty();
-    if (begun_) BeginDecoding(QByteArray::fromStdString(bytes));
-    return;
-  }
+  formats_.append(kMadeBySystem);
   begun_ = BeginNext();
 }
 
 // False when nothing is left to be tried.
 bool QtClipboard::BeginNext() {
-  const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-  if (formats_.isEmpty() || content == nullptr) return false;
+  if (formats_.isEmpty()) return false;
   const QString format = formats_.takeFirst();
+  if (format == kMadeBySystem) {
+    const std::string bytes = ClipboardAsBmpFile();
+    if (!bytes.empty()) BeginDecoding(QByteArray::fromStdString(bytes));
+    return !bytes.empty();
+  }
+  const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+  if (content == nullptr) return false;
   if (format != kMadeByQt) {
     BeginDecoding(content->data(format));
     return true;
