@@ -102,9 +102,8 @@ void ChooseSlot(Program& program, int line) {
 bool ChosenSlotIsAsShown(Program& program) {
   const CaptureState& capture = program.capture;
   const auto line = static_cast<std::size_t>(capture.SelectedSlot);
-  return line < capture.slot_lines.size() &&
+  return line < capture.slot_bytes.size() &&
          SamePath(program.text, capture.game_folder, GameFolder(program)) &&
-         capture.slot_lines[line] == SlotLine(program, capture.SelectedSlot) &&
          capture.slot_bytes[line] == SlotBytes(program, capture.SelectedSlot);
 }
 

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "foundation/messages.h"
+#include "platform/qt/beside.h"
 #include "platform/qt/picture_reading.h"
 #include "program.h"
 #include "savegames/savegame_properties.h"

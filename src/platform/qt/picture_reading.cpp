@@ -1,10 +1,8 @@
 #include "platform/qt/picture_reading.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QImageReader>
 #include <QPainter>
-#include <QThreadPool>
 
 namespace vellumark {
 namespace {
@@ -70,11 +68,5 @@ std::optional<std::string> AsJpegFile(const std::string& bytes) {
   if (decoded.image.isNull()) return std::nullopt;
   return is_jpeg ? bytes : EncodeJpeg(decoded.image);
 }
-
-void StartOnThread(std::function<void()> work) {
-  QThreadPool::globalInstance()->start(std::move(work));
-}
-
-void PaintWindows() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 }  // namespace vellumark

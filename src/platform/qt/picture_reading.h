@@ -5,9 +5,6 @@
 
 #include <QImage>
 #include <QSize>
-#include <chrono>
-#include <functional>
-#include <future>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,35 +37,6 @@ std::optional<std::string> EncodeJpeg(const QImage& image);
 // A picture file's bytes as those of a JPEG file: the same where it is one, nothing where they are
 // no picture.
 std::optional<std::string> AsJpegFile(const std::string& bytes);
-
-// Begins work on another thread. Its answer can be waited for while the window is painted.
-template <typename Answer>
-std::shared_future<Answer> BeginBeside(std::function<Answer()> work);
-
-// Waits for work that BeginBeside began. When it takes long, the windows are painted meanwhile, but
-// take no input.
-template <typename Answer>
-Answer WaitPainting(const std::shared_future<Answer>& answer);
-
-void StartOnThread(std::function<void()> work);
-void PaintWindows();
-
-template <typename Answer>
-std::shared_future<Answer> BeginBeside(std::function<Answer()> work) {
-  const auto task = std::make_shared<std::packaged_task<Answer()>>(std::move(work));
-  StartOnThread([task] { (*task)(); });
-  return task->get_future().share();
-}
-
-template <typename Answer>
-Answer WaitPainting(const std::shared_future<Answer>& answer) {
-  auto patience = std::chrono::milliseconds(200);
-  while (answer.wait_for(patience) != std::future_status::ready) {
-    PaintWindows();
-    patience = std::chrono::milliseconds(20);
-  }
-  return answer.get();
-}
 
 }  // namespace vellumark
 

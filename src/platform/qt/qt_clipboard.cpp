@@ -8,6 +8,7 @@
 #include <chrono>
 
 #include "platform/desktop_services.h"
+#include "platform/qt/beside.h"
 #include "platform/qt/picture_reading.h"
 
 namespace vellumark {
