@@ -188,6 +188,10 @@ constexpr TableMessage kOwnMessages[] = {
      "has a screen-shot. The internal savegame counter, the level and the note follow; ~1 stands "
      "for a new line of the note."},
 
+    {kViewMenu, "View"},
+    {kViewList, "List"},
+    {kViewPictures, "Pictures"},
+
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
     {kNoteCharacters,
      "A note cannot hold these characters: ~1\r\nThe first of them is marked. Nothing has been "

@@ -114,6 +114,11 @@ enum OwnMessage : int {
   kListLegend,       // ~1 mark of a line break
   kListDescription,  // ~1 mark of a line break; for assistive technology and as a tool tip
 
+  // The menu View
+  kViewMenu,
+  kViewList,
+  kViewPictures,
+
   // Savegame properties
   kCounterOutOfRange,     // no values
   kNoteCharacters,        // ~1 characters

@@ -21,7 +21,8 @@ constexpr AccessKey kPrincipaleKeys[] = {
     {"mnu_PropSavegame", 'R'}, {"mnu_Copy", 'C'},        {"mnu_Move", 'M'},
     {"mnu_Delete", 'D'},       {"mnu_Reorder", 'O'},     {"mnu_Scansione", 'R'},
     {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'}, {"mnu_ShowHelp", 'H'},
-    {"mnu_Rescued", 'S'},
+    {"mnu_Rescued", 'S'},      {"mnu_View", 'V'},        {"mnu_ViewList", 'L'},
+    {"mnu_ViewPictures", 'P'},
 };
 
 constexpr AccessKey kSetNewArcKeys[] = {

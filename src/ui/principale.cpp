@@ -30,16 +30,19 @@
 #include "savegames/list_line.h"
 #include "savegames/notes.h"
 #include "session/shut_down.h"
+#include "ui/archive_views.h"
 #include "ui/caption_setter.h"
 #include "ui/capture_dialog.h"
 #include "ui/commands.h"
 #include "ui/controls.h"
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
+#include "ui/pictures_view.h"
 #include "ui/read_only_field.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_room.h"
 #include "ui/screen_shot_viewer.h"
+#include "ui/view_menu.h"
 #include "ui/wrapping_row.h"
 
 namespace vellumark {
@@ -88,17 +91,19 @@ Principale::Principale(FileSystem& files, const Text& text) : files_(files), tex
   BuildCentre();
   SetTabOrder();
   NameControlsWithoutCaption();
-  connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+  const QItemSelectionModel& selection = views_->Selection();
+  connect(&selection, &QItemSelectionModel::selectionChanged, this,
           &Principale::DimWhatIsNotSelected);
-  connect(list_->model(), &QAbstractItemModel::modelReset, this, &Principale::DimWhatIsNotSelected);
+  connect(selection.model(), &QAbstractItemModel::modelReset, this,
+          &Principale::DimWhatIsNotSelected);
   timer_.setObjectName(QStringLiteral("Timer1"));
   timer_.setInterval(kTimerInterval);
-  list_->setFocus();
+  views_->setFocus();
 }
 
 void Principale::Attach(Program& program) {
   program_ = &program;
-  connect(list_, &SavegameList::SelectionTouched, this, [this] { RefreshDetails(*program_); });
+  connect(views_, &ArchiveViews::SelectionTouched, this, [this] { RefreshDetails(*program_); });
   for (const Command& command : Commands()) Connect(command);
   connect(&timer_, &QTimer::timeout, this, [this] {
     OnTimer(*program_);
@@ -128,7 +133,7 @@ void Principale::BuildMenus() {
 void Principale::BuildContextMenu() {
   for (const char* name :
        {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete"}) {
-    list_->addAction(findChild<QAction*>(QLatin1String(name)));
+    views_->AddCommand(findChild<QAction*>(QLatin1String(name)));
   }
 }
 
@@ -137,10 +142,12 @@ void Principale::BuildCentre() {
   auto* column = new QVBoxLayout(centre);
   auto* splitter = new QSplitter(Qt::Horizontal, centre);
   splitter->setChildrenCollapsible(false);
-  list_ = Named(new SavegameList(splitter), "List1");
-  list_->setMinimumWidth(160);
+  views_ = new ArchiveViews(splitter);
+  views_->setMinimumWidth(160);
+  menuBar()->insertMenu(findChild<QMenu*>(QStringLiteral("mnu_Tools"))->menuAction(),
+                        new ViewMenu(*views_, this));
   BuildContextMenu();
-  splitter->addWidget(list_);
+  splitter->addWidget(views_);
   splitter->addWidget(BuildDetails());
   splitter->setStretchFactor(0, 1);
   splitter->setStretchFactor(1, 0);
@@ -213,21 +220,14 @@ QWidget* Principale::BuildBottomLine() {
   return line;
 }
 
-// The reading order: the list, the details beside it, the lines below from left to right.
+// The reading order: the list or the pictures, the details beside it, the lines below from left to
+// right.
 void Principale::SetTabOrder() {
-  const char* const order[] = {"List1",
-                               "Pul_Zoom",
-                               "Pul_CambiaProp",
-                               "Text_Note",
-                               "Text_PathSavegame",
-                               "Text_TotSavegame",
-                               "Text_TotCartelle",
-                               "Pul_Cerca",
-                               "Pul_Precedente",
-                               "Text_Trovati",
-                               "Pul_Seguente",
-                               "Pul_Play",
-                               "Pul_StartTomb"};
+  const char* const order[] = {
+      "List1",     "Pictures1",         "Pul_Zoom",         "Pul_CambiaProp",
+      "Text_Note", "Text_PathSavegame", "Text_TotSavegame", "Text_TotCartelle",
+      "Pul_Cerca", "Pul_Precedente",    "Text_Trovati",     "Pul_Seguente",
+      "Pul_Play",  "Pul_StartTomb"};
   QWidget* previous = nullptr;
   for (const char* name : order) {
     auto* control = findChild<QWidget*>(QLatin1String(name));
@@ -238,12 +238,13 @@ void Principale::SetTabOrder() {
 
 void Principale::NameControlsWithoutCaption() {
   const auto message = [this](int number) { return ToQString(text_, LoadMessage(number)); };
-  list_->setAccessibleName(message(kNameList));
+  views_->List().setAccessibleName(message(kNameList));
+  views_->Pictures().setAccessibleName(message(kNameList));
   const auto with_mark = [this](int number) {
     return ToDisplayLine(text_, LoadMessage(number, {std::string(1, kStoredLineBreak)}), 0);
   };
-  list_->SetHeading(ToQString(text_, FormatListHeading()), with_mark(kListLegend),
-                    with_mark(kListDescription));
+  views_->List().SetHeading(ToQString(text_, FormatListHeading()), with_mark(kListLegend),
+                            with_mark(kListDescription));
   path_->setPlaceholderText(message(kNothingSelected));
   note_->setAccessibleName(message(kNameNote));
   picture_->setAccessibleName(message(kNamePicture));
@@ -290,25 +291,25 @@ void Principale::ShowLines(std::vector<std::string> lines) {
   QStringList shown;
   shown.reserve(static_cast<qsizetype>(lines.size()));
   for (const std::string& line : lines) shown.append(ToDisplayLine(text_, line, kNoteColumn));
-  list_->SetLines(std::move(shown));
+  views_->SetLines(std::move(shown));
 }
 
 void Principale::ReplaceLine(int index, const std::string& line) {
-  list_->ReplaceLine(index, ToDisplayLine(text_, line, kNoteColumn));
+  views_->ReplaceLine(index, ToDisplayLine(text_, line, kNoteColumn));
 }
 
-std::vector<int> Principale::SelectedLines() const { return list_->SelectedLines(); }
+std::vector<int> Principale::SelectedLines() const { return views_->SelectedLines(); }
 
 // Note and picture stay when nothing is selected any more; they must not look like the next line's.
 void Principale::DimWhatIsNotSelected() {
-  const bool dimmed = list_->SelectedLines().size() != 1;
+  const bool dimmed = views_->SelectedLines().size() != 1;
   picture_->SetDimmed(dimmed);
   QPalette palette;
   if (dimmed) palette.setBrush(QPalette::Text, palette.placeholderText());
   note_->setPalette(palette);
 }
 
-void Principale::SelectLine(int index) { list_->SelectLine(index); }
+void Principale::SelectLine(int index) { views_->SelectLine(index); }
 
 void Principale::SetField(Field field, const std::string& text) {
   const QString shown = ToDisplayText(text_, text);

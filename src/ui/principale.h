@@ -23,8 +23,8 @@ namespace vellumark {
 
 struct Command;
 struct Program;
+class ArchiveViews;
 class FileSystem;
-class SavegameList;
 class ScreenShotViewer;
 class ShotBox;
 class Text;
@@ -83,7 +83,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   Program* program_ = nullptr;
   bool closing_ = false;
 
-  SavegameList* list_ = nullptr;
+  ArchiveViews* views_ = nullptr;
   ShotBox* picture_ = nullptr;
   QPlainTextEdit* note_ = nullptr;
   QLineEdit* path_ = nullptr;

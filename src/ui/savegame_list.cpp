@@ -5,13 +5,10 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMouseEvent>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 #include "ui/fonts.h"
 #include "ui/list_heading.h"
@@ -49,10 +46,12 @@ class LineDelegate final : public QStyledItemDelegate {
 
 }  // namespace
 
-SavegameList::SavegameList(QWidget* parent)
-    : QListView(parent), lines_(new SavegameListModel(this)), heading_(new ListHeading(this)) {
-  setModel(lines_);
-  setItemDelegate(new LineDelegate(*lines_, viewport()));
+SavegameList::SavegameList(SavegameListModel& lines, QWidget* parent)
+    : QListView(parent), lines_(lines), heading_(new ListHeading(this)) {
+  // Before the view itself hears of new lines.
+  connect(&lines, &QAbstractItemModel::modelReset, this, &SavegameList::PrepareForLines);
+  setModel(&lines);
+  setItemDelegate(new LineDelegate(lines, viewport()));
   setUniformItemSizes(true);
   setTextElideMode(Qt::ElideNone);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -67,18 +66,15 @@ void SavegameList::SetHeading(const QString& columns, const QString& legend,
   setAccessibleDescription(description);
 }
 
-void SavegameList::SetLines(QStringList lines) {
-  const QScopedValueRollback own_change(own_change_, true);
-  // Finding the font takes a while; an empty list, as at the very first start, need not wait for
-  // it.
-  if (!lines.isEmpty()) setFont(ColumnFont());
-  lines_->SetLines(std::move(lines));
+// Finding the font takes a while; an empty list, as at the very first start, need not wait for it.
+void SavegameList::PrepareForLines() {
+  if (lines_.rowCount() > 0) setFont(ColumnFont());
   PlaceHeading();
 }
 
 void SavegameList::PlaceHeading() {
-  heading_->setVisible(lines_->rowCount() > 0);
-  const int height = lines_->rowCount() > 0 ? heading_->HeightFor(viewport()->width()) : 0;
+  heading_->setVisible(lines_.rowCount() > 0);
+  const int height = lines_.rowCount() > 0 ? heading_->HeightFor(viewport()->width()) : 0;
   setViewportMargins(0, height, 0, 0);
   const QRect lines = viewport()->geometry();
   heading_->setGeometry(lines.left(), lines.top() - height, lines.width(), height);
@@ -87,24 +83,6 @@ void SavegameList::PlaceHeading() {
 void SavegameList::resizeEvent(QResizeEvent* event) {
   QListView::resizeEvent(event);
   PlaceHeading();
-}
-
-void SavegameList::ReplaceLine(int index, const QString& line) { lines_->ReplaceLine(index, line); }
-
-std::vector<int> SavegameList::SelectedLines() const {
-  std::vector<int> selected;
-  for (const QItemSelectionRange& range : selectionModel()->selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) selected.push_back(row);
-  }
-  std::ranges::sort(selected);
-  return selected;
-}
-
-void SavegameList::SelectLine(int index) {
-  const QScopedValueRollback own_change(own_change_, true);
-  const QModelIndex line = lines_->index(index);
-  selectionModel()->setCurrentIndex(line, QItemSelectionModel::ClearAndSelect);
-  scrollTo(line);
 }
 
 // A blank belongs to a level that is being typed; otherwise it is the one that selects a line
@@ -127,14 +105,6 @@ void SavegameList::contextMenuEvent(QContextMenuEvent* event) {
   QMenu::exec(actions(), place, nullptr, this);
 }
 
-void SavegameList::selectionChanged(const QItemSelection& selected,
-                                    const QItemSelection& deselected) {
-  QListView::selectionChanged(selected, deselected);
-  if (own_change_) return;
-  told_ = true;
-  emit SelectionTouched();
-}
-
 // At the first or last line, the keys that lead there have nowhere to go, but select it alone all
 // the same.
 void SavegameList::keyPressEvent(QKeyEvent* event) {
@@ -147,17 +117,6 @@ void SavegameList::keyPressEvent(QKeyEvent* event) {
   if (moves && plain && before.isValid() && currentIndex() == before) {
     selectionModel()->select(before, QItemSelectionModel::ClearAndSelect);
   }
-}
-
-void SavegameList::mousePressEvent(QMouseEvent* event) {
-  told_ = false;
-  QListView::mousePressEvent(event);
-}
-
-void SavegameList::mouseReleaseEvent(QMouseEvent* event) {
-  QListView::mouseReleaseEvent(event);
-  // A click that changed the selection has been told with the change.
-  if (!told_ && event->button() == Qt::LeftButton) emit SelectionTouched();
 }
 
 }  // namespace vellumark

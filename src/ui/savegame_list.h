@@ -4,7 +4,6 @@
 
 #include <QElapsedTimer>
 #include <QListView>
-#include <vector>
 
 namespace vellumark {
 
@@ -15,37 +14,25 @@ class SavegameList final : public QListView {
   Q_OBJECT
 
  public:
-  explicit SavegameList(QWidget* parent);
+  SavegameList(SavegameListModel& lines, QWidget* parent);
 
   // What stands over the lines as soon as there are any; see ListHeading.
   void SetHeading(const QString& columns, const QString& legend, const QString& description);
 
-  void SetLines(QStringList lines);
-  void ReplaceLine(int index, const QString& line);
-  std::vector<int> SelectedLines() const;
-  void SelectLine(int index);
   void keyboardSearch(const QString& search) override;
 
- signals:
-  // The user has changed the selection, or clicked a line again.
-  void SelectionTouched();
-
  protected:
-  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void PrepareForLines();
   void PlaceHeading();
 
-  SavegameListModel* lines_;
+  SavegameListModel& lines_;
   ListHeading* heading_;
-  QElapsedTimer typed_;      // since the last letter of a level that is being typed
-  bool own_change_ = false;  // the program, not the user, is changing the selection
-  bool told_ = false;        // the change of this click has been told
+  QElapsedTimer typed_;  // since the last letter of a level that is being typed
 };
 
 }  // namespace vellumark

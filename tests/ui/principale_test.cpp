@@ -13,6 +13,7 @@
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
 #include "ui/picture_box.h"
+#include "ui/pictures_view.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_shot_viewer.h"
 #include "ui/window_fixture.h"
@@ -32,6 +33,7 @@ class PrincipaleTest : public WindowFixture {
   void KeysOfTheListAreTheListsAlone();
   void AWorkingWindowPaintsItselfButDoesNotClose();
   void ARowShowsControlCharactersAsMarksOrBlanks();
+  void BothViewsHaveOneSelection();
   void RescanKeepsNothingOfTheOldList();
   void LongWorkShowsItsProgressInThePlaceOfThePath();
   void TheViewerShowsThePictureOfItsOpening();
@@ -166,7 +168,7 @@ void PrincipaleTest::CtrlAndTheSpaceBarSelectOneLineMore() {
   // As Windows reports it: with a blank as the text that it types.
   QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, QStringLiteral(" "));
   QApplication::sendEvent(list, &space);
-  QCOMPARE(list->SelectedLines(), (std::vector<int>{0, 1}));
+  QCOMPARE(window_->SelectedLines(), (std::vector<int>{0, 1}));
   QCOMPARE(list->currentIndex().row(), 1);
 }
 
@@ -274,13 +276,32 @@ void PrincipaleTest::ARowShowsControlCharactersAsMarksOrBlanks() {
   QCOMPARE(ToDisplayLine(cyrillic, std::string("\0\t\n\r\x7F", 5), 37), QString(5, u' '));
 }
 
+void PrincipaleTest::BothViewsHaveOneSelection() {
+  Press(Qt::Key_Down);
+  QTest::keyClick(window_.get(), Qt::Key_2, Qt::ControlModifier);
+  auto* pictures = Find<PicturesView>("Pictures1");
+  QVERIFY(pictures->isVisible() && pictures->hasFocus() && !List()->isVisible());
+  QVERIFY(Find<QAction>("mnu_ViewPictures")->isChecked());
+  QTest::keyClick(pictures, Qt::Key_End);
+  QCOMPARE(program_->selection.indices, std::vector<std::int16_t>{2});
+  QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.2"));
+
+  world_->boxes.answers = {BoxAnswer::kYes};
+  QTest::keyClick(pictures, Qt::Key_Delete);
+  QVERIFY(!world_->disk.Exists("Archive/Slot1/savegame.2"));
+  QCOMPARE(pictures->model()->rowCount(), 2);
+  QTest::keyClick(pictures, Qt::Key_1, Qt::ControlModifier);
+  QVERIFY(List()->hasFocus());
+  QCOMPARE(List()->currentIndex().row(), 0);
+}
+
 void PrincipaleTest::RescanKeepsNothingOfTheOldList() {
   auto* list = List();
   Press(Qt::Key_End);
   world_->AddSavegame("Archive/Slot1", 7, "Burial Chambers", 4);
   Find<QAction>("mnu_Scansione")->trigger();
   QCOMPARE(list->model()->rowCount(), 4);
-  QCOMPARE(list->SelectedLines(), std::vector<int>{0});
+  QCOMPARE(window_->SelectedLines(), std::vector<int>{0});
   QCOMPARE(TextOf("Text_PathSavegame"), QStringLiteral("t:\\archive\\slot1\\savegame.0"));
 }
 

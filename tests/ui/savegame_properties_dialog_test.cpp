@@ -112,9 +112,9 @@ void SavegamePropertiesDialogTest::TypedValuesGoToTheSavegameOfTheOpening() {
   QCOMPARE(world_->disk.Read("Archive/Slot1/savegame.3").substr(75, 2), std::string("\x2C\x01"));
   QVERIFY(!world_->disk.Exists("Archive/Slot1/shot3.jpg"));
   QCOMPARE(program_->catalogue.entries[0].InternalCounter, std::int16_t{1});
-  auto* list = Find<SavegameList>(window_.get(), "List1");
+  const auto* list = Find<SavegameList>(window_.get(), "List1");
   QVERIFY(list->model()->index(1, 0).data().toString().startsWith(QLatin1String("    300 Tower")));
-  QCOMPARE(list->SelectedLines(), std::vector<int>{1});
+  QCOMPARE(window_->SelectedLines(), std::vector<int>{1});
 }
 
 void SavegamePropertiesDialogTest::CancelAppliesNothingButALinkedScreenShot() {
