@@ -2,16 +2,18 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
+#include <QStandardPaths>
 #include <QTimer>
 #include <chrono>
 #include <memory>
-#include <optional>
 #include <thread>
 #include <vector>
 
+#include "foundation/companion_files.h"
+#include "foundation/failures.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
-#include "foundation/paths.h"
+#include "foundation/program_places.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
 #include "platform/desktop_services.h"
@@ -30,13 +32,25 @@ namespace {
 
 using namespace vellumark;
 
-// The longest program folder whose own files' paths still fit everywhere.
-constexpr std::size_t kLongestProgramFolder = 200;
+ProgramPlaces FindPlaces(FileSystem& files, bool portable) {
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return FindProgramPlaces(
+      files, {.executable_folder =
+                  files.FromHostPath(QCoreApplication::applicationDirPath().toStdString()),
+              .user_folder = files.FromHostPath((data + "/vellumark").toStdString()),
+              .portable = portable});
+}
 
-std::optional<std::string> FindProgramFolder(FileSystem& files) {
-  auto folder = files.FromHostPath(QCoreApplication::applicationDirPath().toStdString());
-  if (folder && folder->size() > kLongestProgramFolder) return std::nullopt;
-  return folder;
+// Why there is no program folder.
+void TellProblem(const ProgramPlaces& places, MessageBoxes& boxes) {
+  std::string text = LoadMessage(kProgramFolderUnusable, {kLineBreak});
+  if (places.problem == ProgramPlaces::Problem::kNotMade) {
+    text = LoadMessage(kUserFolderNotMade,
+                       {Quoted(places.paths.ProgramFolder), ReasonFor(places.error)});
+  } else if (places.users_own) {
+    text = LoadMessage(kUserFolderUnusable, {kLineBreak});
+  }
+  boxes.Show(text, BoxButtons::kOk, BoxIcon::kCritical);
 }
 
 // The arguments as one text.
@@ -47,9 +61,9 @@ std::string ArgumentText(const Text& text, MessageBoxes& boxes) {
   return {};
 }
 
-void SetIcon(FileSystem& files, const std::string& program_folder) {
+void SetIcon(FileSystem& files, const ProgramPaths& paths) {
   const ReadResult read =
-      files.Read(InFolder(program_folder, "vellumark.png"), FileSystem::kWholeFile);
+      files.Read(CompanionFile(files, paths, "\\vellumark.png"), FileSystem::kWholeFile);
   QPixmap picture;
   picture.loadFromData(reinterpret_cast<const uchar*>(read.bytes.data()),
                        static_cast<uint>(read.bytes.size()));
@@ -72,16 +86,17 @@ int main(int argc, char* argv[]) {
   const std::unique_ptr<FileSystem> files = MakeSystemFileSystem(*text);
   QtMessageBoxes boxes(*text);
 
-  const auto program_folder = FindProgramFolder(*files);
-  if (!program_folder) {
-    boxes.Show(LoadMessage(kProgramFolderUnusable, {kLineBreak}), BoxButtons::kOk,
-               BoxIcon::kCritical);
+  const CommandLine command_line = ReadCommandLine(ArgumentText(*text, boxes));
+  const ProgramPlaces places = FindPlaces(*files, command_line.portable);
+  if (places.problem != ProgramPlaces::Problem::kNone) {
+    TellProblem(places, boxes);
     return 1;
   }
-  const LockResult lock = files->LockFolder(*program_folder);
+  const ProgramPaths& paths = places.paths;
+  const LockResult lock = files->LockFolder(paths.ProgramFolder);
   if (lock.answer == LockAnswer::kHeldByAnother) {
-    SetIcon(*files, *program_folder);
-    boxes.Show(LoadMessage(kAlreadyRunning, {Quoted(*program_folder)}), BoxButtons::kOk,
+    SetIcon(*files, paths);
+    boxes.Show(LoadMessage(kAlreadyRunning, {Quoted(paths.ProgramFolder)}), BoxButtons::kOk,
                BoxIcon::kCritical);
     return 1;
   }
@@ -102,8 +117,8 @@ int main(int argc, char* argv[]) {
                   .clipboard = clipboard,
                   .windows = window,
                   .main_window = window};
-  program.paths.ProgramFolder = *program_folder;
-  program.argument_text = ArgumentText(*text, boxes);
+  program.paths = paths;
+  program.argument_text = command_line.path;
   window.Attach(program);
   QObject::connect(&window, &Principale::Closed, &application, &QCoreApplication::quit,
                    Qt::QueuedConnection);
@@ -114,8 +129,7 @@ int main(int argc, char* argv[]) {
   constexpr auto kIconDelay = std::chrono::milliseconds(100);
   QTimer icon_delay;
   icon_delay.setSingleShot(true);
-  QObject::connect(&icon_delay, &QTimer::timeout, &window,
-                   [&] { SetIcon(*files, *program_folder); });
+  QObject::connect(&icon_delay, &QTimer::timeout, &window, [&] { SetIcon(*files, paths); });
   icon_delay.start(kIconDelay);
   MainWindowLoaded(program);
   window.show();

@@ -1,5 +1,6 @@
 #include "foundation/help.h"
 
+#include "foundation/companion_files.h"
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
@@ -10,7 +11,7 @@
 namespace vellumark {
 
 void ShowHelp(Program& program) {
-  const std::string help_file = program.paths.ProgramFolder + LoadMessage(272);
+  const std::string help_file = CompanionFile(program.files, program.paths, LoadMessage(272));
   if (!FileExists(program.files, help_file)) {
     Tell(program, LoadMessage(273) + help_file, BoxIcon::kCritical);
     return;

@@ -11,6 +11,10 @@ constexpr TableMessage kOwnMessages[] = {
     {kProgramFolderUnusable,
      "Vellumark cannot run from this folder: its path is too long or has characters that savegame "
      "archives cannot hold.~1Please move the program to another folder."},
+    {kUserFolderUnusable,
+     "Vellumark cannot keep its files in your data folder: its path is too long or has characters "
+     "that savegame archives cannot hold.~1Please name another folder in XDG_DATA_HOME."},
+    {kUserFolderNotMade, "Vellumark cannot make the folder ~1 for its files: ~2."},
     {kCodePageSubstitute,
      "The text of your language cannot be kept in savegame notes and paths. Vellumark uses the "
      "characters of code page ~1."},

@@ -8,6 +8,8 @@ enum OwnMessage : int {
   // Start
   kAlreadyRunning = 401,   // ~1 program folder
   kProgramFolderUnusable,  // ~1 line break
+  kUserFolderUnusable,     // ~1 line break
+  kUserFolderNotMade,      // ~1 folder, ~2 reason
   kCodePageSubstitute,     // ~1 code page
   kBackupFolderNotReady,   // ~1 folder, ~2 reason
   kSlotsSetAside,          // ~1 folder, ~2 line break, ~3 new folder

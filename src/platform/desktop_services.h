@@ -21,7 +21,7 @@ std::string ArgumentsAsTyped();
 
 std::unique_ptr<Shell> MakeShell();
 
-// `program_folder` is a host path, UTF-8.
+// `program_folder` is the executable's, a host path, UTF-8.
 std::unique_ptr<SoundPlayer> MakeSoundPlayer(const std::string& program_folder);
 
 std::unique_ptr<DesktopWindows> MakeDesktopWindows();

@@ -172,6 +172,9 @@ class FileSystem {
   // told.
   virtual std::optional<std::uint64_t> FreeRoom(const std::string& folder) = 0;
 
+  // True when this user may make files in a folder, which is not tried.
+  virtual bool MayMakeFilesIn(const std::string& folder) = 0;
+
   // Where the file lies that a path leads to: another path when its name is a link that is
   // followed, `path` itself otherwise or when a path cannot express it.
   virtual std::string FinalPath(const std::string& path) { return path; }

@@ -3,6 +3,7 @@
 #include "archive/archive_file.h"
 #include "archive/scan.h"
 #include "foundation/captions.h"
+#include "foundation/companion_files.h"
 #include "foundation/failures.h"
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
@@ -26,7 +27,7 @@ constexpr std::int16_t kDefaultMaxSavegame = 15;
 
 void FindDefaultShot(Program& program) {
   std::string& path = program.paths.DefaultShotPath;
-  path = program.paths.ProgramFolder + LoadMessage(286);
+  path = CompanionFile(program.files, program.paths, LoadMessage(286));
   if (FileExists(program.files, path)) return;
 
   const std::string text = LoadMessage(287, {Quoted(FileNameOf(path))});

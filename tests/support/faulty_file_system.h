@@ -53,6 +53,9 @@ class FaultyFileSystem final : public FileSystem {
   std::optional<std::uint64_t> FreeRoom(const std::string& folder) override {
     return free_room ? free_room : real_.FreeRoom(folder);
   }
+  bool MayMakeFilesIn(const std::string& folder) override {
+    return Pass("MayMakeFilesIn", folder, [&] { return real_.MayMakeFilesIn(folder); });
+  }
   std::string FinalPath(const std::string& path) override { return real_.FinalPath(path); }
   FileError Create(const std::string& path, std::string_view bytes) override {
     return Pass("Create", path, [&] { return real_.Create(path, bytes); });

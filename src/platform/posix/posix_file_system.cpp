@@ -166,6 +166,12 @@ std::optional<std::uint64_t> PosixFileSystem::FreeRoom(const std::string& folder
   return static_cast<std::uint64_t>(room.f_bavail) * room.f_frsize;
 }
 
+bool PosixFileSystem::MayMakeFilesIn(const std::string& folder) {
+  const PathStatus found = Status(folder);
+  return found.error == FileError::kNone && S_ISDIR(found.status.st_mode) &&
+         faccessat(AT_FDCWD, found.host.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
 std::string PosixFileSystem::FinalPath(const std::string& path) {
   const PathStatus found = Status(path);
   struct stat status = {};

@@ -46,6 +46,7 @@ class PosixFileSystem final : public FileSystem {
   bool SameContent(const std::string& a, const std::string& b) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;
   std::optional<std::uint64_t> FreeRoom(const std::string& folder) override;
+  bool MayMakeFilesIn(const std::string& folder) override;
   std::string FinalPath(const std::string& path) override;
 
   FileError Create(const std::string& path, std::string_view bytes) override;

@@ -4,11 +4,14 @@
 
 namespace vellumark {
 
-QtSoundPlayer::QtSoundPlayer(const QString& program_folder)
-    : module_(program_folder + QStringLiteral("/libvellumark_sound")) {}
+QtSoundPlayer::QtSoundPlayer(const QString& program_folder) : program_folder_(program_folder) {}
 
 void QtSoundPlayer::Play(const std::string& host_path) {
   if (!std::exchange(tried_, true)) {
+    for (const char* place : {"/libvellumark_sound", "/../lib/vellumark/libvellumark_sound"}) {
+      module_.setFileName(program_folder_ + QLatin1String(place));
+      if (module_.load()) break;
+    }
     play_ = reinterpret_cast<PlayFunction>(module_.resolve("VellumarkPlaySound"));
   }
   if (play_ != nullptr) play_(host_path.c_str());

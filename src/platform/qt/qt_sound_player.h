@@ -1,4 +1,4 @@
-// Sounds by the module that stands beside the program.
+// Sounds by the module that stands beside the program or is installed with it.
 #ifndef VELLUMARK_PLATFORM_QT_QT_SOUND_PLAYER_H_
 #define VELLUMARK_PLATFORM_QT_QT_SOUND_PLAYER_H_
 
@@ -12,7 +12,7 @@ namespace vellumark {
 // the module there is silence.
 class QtSoundPlayer final : public SoundPlayer {
  public:
-  // `program_folder` is a host path.
+  // `program_folder` is the executable's, a host path.
   explicit QtSoundPlayer(const QString& program_folder);
 
   void Play(const std::string& host_path) override;
@@ -20,6 +20,7 @@ class QtSoundPlayer final : public SoundPlayer {
  private:
   using PlayFunction = void (*)(const char* path);
 
+  QString program_folder_;
   QLibrary module_;
   PlayFunction play_ = nullptr;
   bool tried_ = false;

@@ -29,9 +29,9 @@ FileHandle OpenExisting(const std::wstring& path, DWORD access) {
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
-FileHandle OpenToAsk(const std::wstring& path) {
-  return FileHandle(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
-                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+FileHandle OpenToAsk(const std::wstring& path, DWORD access) {
+  return FileHandle(CreateFileW(path.c_str(), access, kShareAll, nullptr, OPEN_EXISTING,
+                                FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
 ReadResult ReadUpTo(const FileHandle& file, std::size_t limit) {

@@ -35,8 +35,8 @@ class FileHandle {
 // Opens a file that exists, letting other programs do with it what they like meanwhile.
 FileHandle OpenExisting(const std::wstring& path, DWORD access);
 
-// The same for a file or folder, links followed, to ask what it is.
-FileHandle OpenToAsk(const std::wstring& path);
+// The same for a file or folder, links followed, to ask what it is or what this user may do.
+FileHandle OpenToAsk(const std::wstring& path, DWORD access = FILE_READ_ATTRIBUTES);
 
 // From the file's position on. A file that is shorter than `limit` is no failure.
 ReadResult ReadUpTo(const FileHandle& file, std::size_t limit);

@@ -145,6 +145,12 @@ std::optional<std::uint64_t> WindowsFileSystem::FreeRoom(const std::string& fold
   return room.QuadPart;
 }
 
+bool WindowsFileSystem::MayMakeFilesIn(const std::string& folder) {
+  const CheckedPath checked = PathToLookFor(folder);
+  return checked.error == FileError::kNone && AttributesOf(checked.wide).attributes.folder &&
+         OpenToAsk(checked.wide, FILE_ADD_FILE | FILE_ADD_SUBDIRECTORY).IsOpen();
+}
+
 std::optional<FileIdentity> WindowsFileSystem::Identity(const std::string& path) {
   const CheckedPath checked = PathToLookFor(path);
   if (checked.error != FileError::kNone) return std::nullopt;

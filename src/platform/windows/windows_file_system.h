@@ -38,6 +38,7 @@ class WindowsFileSystem final : public FileSystem {
   bool WorksOnThreads() const override { return true; }
   ReadResult Read(const std::string& path, std::size_t limit) override;
   std::optional<std::uint64_t> FreeRoom(const std::string& folder) override;
+  bool MayMakeFilesIn(const std::string& folder) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;
 
   FileError Create(const std::string& path, std::string_view bytes) override;
