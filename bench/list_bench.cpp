@@ -6,85 +6,14 @@
 #include <string>
 #include <utility>
 
-#include "archive/scan.h"
 #include "bench_run.h"
+#include "filled_window.h"
 #include "frame_clock.h"
 #include "measured.h"
-#include "platform/system_services.h"
-#include "program.h"
-#include "support/faulty_file_system.h"
-#include "support/scripted_desktop.h"
-#include "ui/principale.h"
-#include "ui/savegame_list.h"
 
 namespace {
 
-using namespace vellumark;
 using namespace vellumark::bench;
-
-class FilledWindow {
- public:
-  FilledWindow(FrameClock& clock, const std::string& archive, const std::string& empty_folder)
-      : clock_(clock) {
-    ArchiveSettings& settings = program_.archive.settings;
-    settings.MainFolder = CorePath(files_, archive);
-    settings.GameFolder = CorePath(files_, empty_folder);
-    settings.SubfolderBaseName = kSubfolderBaseName;
-    settings.MaxSavegame = kSlotsInFolder - 1;
-
-    // The game's folder is the last that a scan opens, and nothing is in it.
-    files_.meanwhile = [this](const std::string& operation) {
-      if (operation == "OpenFolder") scan_ended_ = Now();
-    };
-    window_.Attach(program_);
-    window_.show();
-  }
-
-  double Fill() {
-    clock_.Settle();
-    ScanArchive(program_);
-    const double shown = clock_.WaitForFrame(List()->viewport());
-    Require(program_.catalogue.entries.size() == kSavegames && boxes_.shown.empty(),
-            "The list is not whole.");
-    return shown - scan_ended_;
-  }
-
-  SavegameList* List() { return window_.findChild<SavegameList*>(); }
-  QSize Size() const { return window_.size(); }
-
-  QStringList Lines() {
-    QStringList lines;
-    const QAbstractItemModel* model = List()->model();
-    for (int row = 0; row < model->rowCount(); ++row) {
-      lines.append(model->index(row, 0).data().toString());
-    }
-    return lines;
-  }
-
- private:
-  FrameClock& clock_;
-  std::unique_ptr<Text> text_ = MakeSystemText();
-  std::unique_ptr<FileSystem> real_files_ = MakeSystemFileSystem(*text_);
-  vellumark::testing::FaultyFileSystem files_{*real_files_};
-  vellumark::testing::ScriptedMessageBoxes boxes_;
-  vellumark::testing::ScriptedFileDialogs dialogs_;
-  vellumark::testing::RecordedSounds sounds_;
-  vellumark::testing::RecordedShell shell_;
-  vellumark::testing::ScriptedDesktopWindows desktop_;
-  vellumark::testing::ScriptedClipboard clipboard_;
-  Principale window_{files_, *text_};
-  Program program_{.files = files_,
-                   .text = *text_,
-                   .boxes = boxes_,
-                   .file_dialogs = dialogs_,
-                   .sounds = sounds_,
-                   .shell = shell_,
-                   .desktop = desktop_,
-                   .clipboard = clipboard_,
-                   .windows = window_,
-                   .main_window = window_};
-  double scan_ended_ = 0;
-};
 
 class BareList {
  public:

@@ -1,6 +1,7 @@
 // Makes the archive that the benchmarks read: 10,000 savegames of 7.5 KB in 625 sub-folders, a
-// note with each, a screen-shot of 30 KB with half of them. The same bytes every time.
-// usage: make_archive_tree FOLDER
+// note with each, a screen-shot of 30 KB with half of them. The same bytes every time. With `long`,
+// one note in ten goes on to 64 KB, and one to 10 MB.
+// usage: make_archive_tree FOLDER [long]
 #include <QBuffer>
 #include <QImage>
 #include <cstdint>
@@ -55,7 +56,13 @@ std::string Savegame(Numbers& numbers, int index) {
   return bytes;
 }
 
-std::string Note(Numbers& numbers) {
+// The length of a note in an archive with long ones.
+std::size_t LongNoteSize(int index) {
+  if (index == kSavegames / 2 + 1) return std::size_t{10} << 20U;
+  return index % 10 == 0 ? std::size_t{64} << 10U : kNoteSize;
+}
+
+std::string Note(Numbers& numbers, std::size_t size) {
   static constexpr std::string_view kWords[] = {"before", "the",  "second", "lever",
                                                 "with",   "full", "health", "jump",
                                                 "left",   "key",  "trap",   "door"};
@@ -65,6 +72,8 @@ std::string Note(Numbers& numbers) {
     note += ' ';
   }
   note.resize(kNoteSize, ' ');
+  while (note.size() < size) note += note;
+  note.resize(size);
   return note + "\r\n";
 }
 
@@ -90,8 +99,10 @@ std::string Shot() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  Require(argc == 2, "usage: make_archive_tree FOLDER");
+  Require(argc == 2 || (argc == 3 && std::string_view(argv[2]) == "long"),
+          "usage: make_archive_tree FOLDER [long]");
   const fs::path archive = argv[1];
+  const bool long_notes = argc == 3;
   const std::string shot = Shot();
   Numbers numbers;
   int index = 0;
@@ -101,7 +112,8 @@ int main(int argc, char** argv) {
     for (int slot = 0; slot < kSlotsInFolder; ++slot) {
       const std::string number = std::to_string(slot);
       Write(folder / ("savegame." + number), Savegame(numbers, ++index));
-      Write(folder / ("note" + number + ".txt"), Note(numbers));
+      Write(folder / ("note" + number + ".txt"),
+            Note(numbers, long_notes ? LongNoteSize(index) : kNoteSize));
       if (slot % 2 == 0) Write(folder / ("shot" + number + ".jpg"), shot);
     }
   }

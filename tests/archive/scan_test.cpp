@@ -190,7 +190,7 @@ TEST_F(ScanTest, ManyThreadsFindWhatOneFinds) {
   for (int folder = 1; folder <= 40; ++folder) {
     const std::string name = "Archive/Slot" + std::to_string(folder);
     disk.MakeFolder(name);
-    for (int slot = folder % 3; slot < folder % 7; ++slot) {
+    for (int slot = folder % 3; slot <= folder % 7; ++slot) {
       AddSavegame(name, slot, "Level " + std::to_string(folder), static_cast<std::int16_t>(slot));
       disk.Write(name + "/note" + std::to_string(slot) + ".txt", std::string(10U * slot, 'n'));
     }

@@ -498,7 +498,7 @@ TEST_F(ExaminedEntryTest, HoldsAsLongAsSlotAndEntryAreThatSavegame) {
 TEST_F(RunningGameTest, IsFoundByItsExactTitleAndActivatedInsteadOfStarted) {
   desktop.open = {{1, ""},
                   {2, "About Tomb Raider - The Last Revelation"},
-                  {3, "TOMB RAIDER - the last revelation"}};
+                  {3, std::string("TOMB RAIDER - the last revelation") + '\0' + "rest"}};
   StartGame(*program);
   EXPECT_EQ(desktop.activated, std::vector<WindowHandle>{3});
   EXPECT_EQ(desktop.entered, std::vector<WindowHandle>{3});

@@ -100,10 +100,10 @@ TEST_F(RescuedTest, OnlyFreeSlotsOfTheGameAreFilled) {
 
 TEST_F(RescuedTest, DeletesOnlyAfterAYes) {
   disk.MakeReadOnly("Program/rescued/2/note3.txt");
-  DeleteRescuedFiles(program, FilesOf(All().at(0)));
+  EXPECT_FALSE(DeleteRescuedFiles(program, FilesOf(All().at(0))));
   EXPECT_EQ(disk.AllFiles(), before);
   boxes.answers = {BoxAnswer::kYes};
-  DeleteRescuedFiles(program, FilesOf(All().at(0)));
+  EXPECT_TRUE(DeleteRescuedFiles(program, FilesOf(All().at(0))));
   EXPECT_FALSE(disk.Exists("Program/rescued/2"));
 }
 

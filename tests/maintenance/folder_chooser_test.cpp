@@ -145,6 +145,26 @@ TEST_F(FolderChooserTest, ADriveThatIsNotReadyLeadsBack) {
             "The folder \"U:\\\" cannot be opened: it could not be read or written.");
 }
 
+TEST_F(FolderChooserTest, ATypedFolderIsEnteredOrRefusedWithItsReason) {
+  const auto type = [this](const std::string& typed) {
+    return EnterTypedFolder(program, text.FromUtf8(typed));
+  };
+  for (const char* typed : {" T:\\Archive\\ ", "..\\Archive", "\\Archive"}) {
+    const auto entered = type(typed);
+    ASSERT_TRUE(entered.has_value()) << typed;
+    EXPECT_EQ(entered->folder, "T:\\Archive") << typed;
+  }
+  const std::pair<const char*, const char*> cases[] = {
+      {"\\\\server\\share",
+       "The folder \"\\\\server\\share\" cannot be opened: it does not exist."},
+      {"T:\\None", "The folder \"T:\\None\" cannot be opened: it does not exist."},
+      {"T:\\\xD0\x96", "savegame archives cannot"}};
+  for (const auto& [typed, refusal] : cases) {
+    EXPECT_EQ(type(typed), std::nullopt);
+    EXPECT_TRUE(Contains(TakeRefusal(), refusal)) << typed;
+  }
+}
+
 TEST_F(FolderChooserTest, ANewFolderLiesInTheCurrentOne) {
   EXPECT_EQ(Create("T:\\", "  New one "), "T:\\New one");
   EXPECT_EQ(Create("T:\\Archive", "\xC3\x89t"), "T:\\Archive\\\xC9t");
