@@ -112,6 +112,7 @@ class PlayBench {
                                 .GameFolder = game,
                                 .GameExecutable = game + "\\tomb4.exe",
                                 .MaxSavegame = kPlayed};
+    program.trust.programs = {program.archive.settings.GameExecutable};
     for (int slot = 0; slot < kPlayed; ++slot) {
       SavegameEntry entry;
       entry.FolderNumber = 1;

@@ -26,6 +26,7 @@
 #include "session/session_end.h"
 #include "session/start_up.h"
 #include "ui/fonts.h"
+#include "ui/game_search.h"
 #include "ui/principale.h"
 
 namespace {
@@ -134,5 +135,7 @@ int main(int argc, char* argv[]) {
   MainWindowLoaded(program);
   window.show();
   if (icon_delay.isActive()) icon_delay.start(kIconDelay);
+  const GameSearch game_search(program);
+  QObject::connect(&game_search, &GameSearch::Found, &window, &Principale::RefreshPage);
   return QApplication::exec();
 }

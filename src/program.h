@@ -6,6 +6,8 @@
 #include <string>
 
 #include "archive/archive_state.h"
+#include "archive/game_search_state.h"
+#include "archive/trust_state.h"
 #include "foundation/preferences_state.h"
 #include "foundation/program_paths_state.h"
 #include "foundation/session_state.h"
@@ -48,6 +50,8 @@ struct Program {
   Preferences preferences{};
   PreferencesFileState preferences_file{};
   ArchiveState archive{};
+  TrustState trust{};
+  GameSearchState game_search{};
   Catalogue catalogue{};
   Selection selection{};
   DetailsState details{};

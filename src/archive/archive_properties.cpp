@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "archive/subfolder_name.h"
+#include "archive/trusted_programs.h"
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
@@ -37,6 +38,13 @@ std::string ChooseFolder(Program& program, ChooserMode mode, const std::string& 
   return program.chooser.field;
 }
 
+// For a new archive, unless the slots hold archived savegames of another one.
+const FoundGame* GameToPropose(const Program& program) {
+  const bool is_new = program.archive.before_new != nullptr;
+  const auto& games = program.game_search.games;
+  return is_new && !games.empty() && !program.play.ExaminedInGameFolder ? &games.front() : nullptr;
+}
+
 }  // namespace
 
 ArchivePropertiesFields PrepareArchiveProperties(Program& program) {
@@ -47,11 +55,17 @@ ArchivePropertiesFields PrepareArchiveProperties(Program& program) {
   settings.SubfolderBaseName = Trimmed(settings.SubfolderBaseName);
   program.archive.ArchivePropertiesOk = false;
   PlaySoundEffect(program, SoundEffect::kOpening);
-  return {.main_folder = settings.MainFolder,
-          .base_name = settings.SubfolderBaseName,
-          .game_folder = settings.GameFolder,
-          .executable = settings.GameExecutable,
-          .max_savegame = std::to_string(settings.MaxSavegame)};
+  ArchivePropertiesFields fields{.main_folder = settings.MainFolder,
+                                 .base_name = settings.SubfolderBaseName,
+                                 .game_folder = settings.GameFolder,
+                                 .executable = settings.GameExecutable,
+                                 .max_savegame = std::to_string(settings.MaxSavegame)};
+  if (const FoundGame* game = GameToPropose(program)) {
+    fields.game_folder = game->folder;
+    fields.executable = game->executable;
+    fields.max_savegame = std::to_string(game->max_savegame);
+  }
+  return fields;
 }
 
 std::string ArchivePropertiesTitle(const Program& program) {
@@ -76,6 +90,7 @@ bool AcceptArchiveProperties(Program& program, const ArchivePropertiesFields& fi
   settings.MaxSavegame = *max_savegame;
   settings.GameFolder = fields.game_folder;
   settings.GameExecutable = fields.executable;
+  TrustProgram(program, fields.executable);
   program.archive.ArchiveChanged = true;
   program.archive.ArchivePropertiesOk = true;
   return true;

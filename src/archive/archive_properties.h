@@ -18,7 +18,8 @@ struct ArchivePropertiesFields {
   std::string max_savegame{};
 };
 
-// The fields for the archive in use, with the opening sound. ArchivePropertiesOk becomes false.
+// The fields for the archive in use, with the opening sound; for a new archive the first game that
+// was found is proposed. ArchivePropertiesOk becomes false.
 ArchivePropertiesFields PrepareArchiveProperties(Program& program);
 
 // The dialog's title: it names the archive file.

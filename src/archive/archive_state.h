@@ -36,6 +36,10 @@ struct ArchiveState {
 
   std::string file_bytes{};  // the file's record as this run has read or written it last
 
+  // As the last scan has found them; only known when it has listed nothing.
+  bool main_folder_there = true;
+  bool game_folder_there = true;
+
   bool ArchivePropertiesOk = false;  // the last answer of the archive properties dialog
 
   // Set while the dialog for a new archive is open: what was in use before.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "archive/catalogue_builder.h"
+#include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
@@ -95,6 +96,12 @@ void ReportProblems(Program& program, const ScannedCatalogue& scanned) {
   }
 }
 
+void LookForFolders(Program& program) {
+  ArchiveState& archive = program.archive;
+  archive.main_folder_there = FolderExists(program.files, archive.settings.MainFolder);
+  archive.game_folder_there = FolderExists(program.files, archive.settings.GameFolder);
+}
+
 }  // namespace
 
 void ScanArchive(Program& program) {
@@ -107,6 +114,7 @@ void ScanArchive(Program& program) {
     program.catalogue = std::move(scanned.catalogue);
     for (const std::string& path : scanned.leftovers) program.files.Delete(path);
     ShowCatalogue(program, scanned.has_shot);
+    if (program.catalogue.EntryCount() == 0) LookForFolders(program);
   }
   program.archive.ArchiveChanged = true;
   PlaySoundEffect(program, SoundEffect::kNotice);

@@ -150,6 +150,17 @@ constexpr TableMessage kOwnMessages[] = {
     {kGameLastWords, "The last words about it: ~1"},
     {kSavegamesInSlots, "The savegames are in its slots."},
 
+    {kTrustFile, "\\programs.txt"},
+    {kTrustHead, "Programs that Vellumark may start"},
+    {kStartUnknownProgram,
+     "Archive ~1 names a program that you have neither chosen nor started "
+     "before:\r\n\r\n~2\r\n\r\nWhen "
+     "the archive comes from somebody else, make sure that this is your game."},
+    {kProgramIsForeign,
+     "Warning: this file is not a Windows program. It is a script or a program of this system, and "
+     "could do whatever you can do."},
+    {kStartItAllTheSame, "Do you want to start it?"},
+
     {kSlotEmpty,
      "This slot is empty: there is no savegame to link the screen-shot to. Nothing has been "
      "written."},
@@ -195,6 +206,37 @@ constexpr TableMessage kOwnMessages[] = {
     {kViewMenu, "View"},
     {kViewList, "List"},
     {kViewPictures, "Pictures"},
+
+    {kPageNoArchive,
+     "No archive is open.\r\n\r\nAn archive keeps your savegames in numbered folders, with notes "
+     "and "
+     "screen-shots, however few slots the game has."},
+    {kPageGameFound, "Tomb Raider was found in folder ~1."},
+    {kPageGamesFound, "Tomb Raider was found in these folders:"},
+    {kPageArchiveMissing,
+     "Archive ~1 was to be opened, but it is not there.\r\n\r\nPerhaps its disk is not connected, "
+     "or "
+     "the file has been moved or renamed."},
+    {kPageStillMissing, "It was still not there when Vellumark looked again."},
+    {kPageNotSetUp,
+     "This archive does not name its folders. Choose them with the command Archive in the menu "
+     "Preferences."},
+    {kPageMainFolderMissing, "The main archive folder ~1 is not there."},
+    {kPageGameFolderMissing, "The Tomb Raider folder ~1 is not there."},
+    {kPageFoldersAdvice,
+     "Perhaps a disk is not connected. When a folder has been moved, choose its new place with the "
+     "command Archive in the menu Preferences."},
+    {kPageArchiveEmpty,
+     "This archive is empty, and there are no savegames in Tomb Raider folder ~1.\r\n\r\nPlay, and "
+     "save in the game. Then look again here, and put the savegames into the archive with the "
+     "import "
+     "command in the menu Savegames (Ctrl+I)."},
+    {kPageNew, "New archive"},
+    {kPageNewFor, "New archive for ~1"},
+    {kPageOpen, "Open an archive"},
+    {kPageHelp, "Show the help"},
+    {kPageLookAgain, "Look again"},
+    {kOtherGameFolder, "Another folder ..."},
 
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
     {kNoteCharacters,

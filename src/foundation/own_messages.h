@@ -92,6 +92,12 @@ enum OwnMessage : int {
   kGameLastWords,           // ~1 a line that another program wrote
   kSavegamesInSlots,        // no values
 
+  kTrustFile,            // path tail
+  kTrustHead,            // first line of that file
+  kStartUnknownProgram,  // ~1 archive, ~2 executable
+  kProgramIsForeign,     // no values
+  kStartItAllTheSame,    // question
+
   // Capture
   kSlotEmpty,             // no values
   kSlotsChanged,          // no values
@@ -120,6 +126,24 @@ enum OwnMessage : int {
   kViewMenu,
   kViewList,
   kViewPictures,
+
+  // What the main window says while there is no list
+  kPageNoArchive,
+  kPageGameFound,          // ~1 game folder
+  kPageGamesFound,         // followed by folders
+  kPageArchiveMissing,     // ~1 archive
+  kPageStillMissing,       // no values
+  kPageNotSetUp,           // no values
+  kPageMainFolderMissing,  // ~1 main folder
+  kPageGameFolderMissing,  // ~1 game folder
+  kPageFoldersAdvice,      // no values
+  kPageArchiveEmpty,       // ~1 game folder
+  kPageNew,
+  kPageNewFor,  // ~1 name of the game folder
+  kPageOpen,
+  kPageHelp,
+  kPageLookAgain,
+  kOtherGameFolder,  // of a choice of folders
 
   // Savegame properties
   kCounterOutOfRange,     // no values

@@ -7,10 +7,12 @@
 namespace vellumark {
 
 struct SessionState {
-  bool settings_read = false;  // from here on the settings may be written
-  bool ending = false;         // nobody is there to answer any more; ask IsEnding
-  bool ended = false;          // all that an end of the run saves is saved
-  std::string untold;          // the messages that nobody was there to read
+  bool settings_read = false;   // from here on the settings may be written
+  bool ending = false;          // nobody is there to answer any more; ask IsEnding
+  bool ended = false;           // all that an end of the run saves is saved
+  std::string missing_archive;  // the archive that was to be opened and is not there
+  bool looked_again = false;    // and it was still not there
+  std::string untold;           // the messages that nobody was there to read
 };
 
 }  // namespace vellumark

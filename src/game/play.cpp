@@ -86,7 +86,7 @@ bool MayPlay(Program& program, const Indices& indices) {
     return Refuse(program, LoadMessage(kPlaySourceInGameFolder,
                                        {Quoted(entry->SavegamePath), Quoted(game_folder)}));
   }
-  return true;
+  return MayBringUpGame(program);
 }
 
 // Puts the player's own slots aside. False when that failed: the slots are as they were.

@@ -5,6 +5,7 @@
 #include "foundation/messages.h"
 #include "foundation/paths.h"
 #include "foundation/strings.h"
+#include "game/start_question.h"
 #include "platform/clipboard.h"
 #include "platform/file_system.h"
 #include "platform/text.h"
@@ -14,6 +15,18 @@ namespace vellumark {
 namespace {
 
 constexpr std::size_t kLongestTitle = 255;
+
+bool IsNamedAsTheGame(const Program& program) {
+  const std::string name = FileNameOf(Trimmed(program.archive.settings.GameExecutable));
+  return SamePath(program.text, name, LoadMessage(331));
+}
+
+// That a program is missing is told when it is started.
+bool MayStartGame(Program& program) {
+  const std::string executable = Trimmed(program.archive.settings.GameExecutable);
+  return program.files.Attributes(executable).error == FileError::kNotFound ||
+         MayStartProgram(program, executable);
+}
 
 }  // namespace
 
@@ -41,10 +54,7 @@ WindowHandle FindWindowByTitle(Program& program, std::string& title, bool partia
 bool ActivateRunningGame(Program& program) {
   std::string title = LoadMessage(330);
   const WindowHandle window = FindWindowByTitle(program, title, false);
-  if (window == 0) {
-    const std::string name = FileNameOf(Trimmed(program.archive.settings.GameExecutable));
-    return !SamePath(program.text, name, LoadMessage(331));
-  }
+  if (window == 0) return !IsNamedAsTheGame(program);
 
   program.files.SetCurrentFolder(Trimmed(program.archive.settings.GameFolder));
   const ProcessId process = program.desktop.ProcessOf(window);
@@ -60,12 +70,19 @@ bool ActivateRunningGame(Program& program) {
   return true;
 }
 
+bool MayBringUpGame(Program& program) {
+  std::string title = LoadMessage(330);
+  if (FindWindowByTitle(program, title, false) != 0 || !IsNamedAsTheGame(program)) return true;
+  return MayStartGame(program);
+}
+
 void BringUpGame(Program& program, GameSlots slots) {
-  if (ActivateRunningGame(program)) return;
+  if (ActivateRunningGame(program) || !MayStartGame(program)) return;
   StartGameProgram(program, Trimmed(program.archive.settings.GameExecutable), slots);
 }
 
 void StartGame(Program& program) {
+  if (!MayBringUpGame(program)) return;
   program.clipboard.Empty();
   program.capture.CaptureArmed = true;
   BringUpGame(program, GameSlots::kAsTheyWere);

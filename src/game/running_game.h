@@ -28,6 +28,9 @@ void BringUpGame(Program& program, GameSlots slots);
 // The button "Start Tomb Raider": arms the capture and brings up the game; touches no slot.
 void StartGame(Program& program);
 
+// False when bringing up the game would start a program that the user does not let start.
+bool MayBringUpGame(Program& program);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_GAME_RUNNING_GAME_H_

@@ -108,12 +108,8 @@ bool UseChosenFolder(Program& program) {
       chooser.field = chooser.ChosenFolder;
       break;
     case ChooserMode::kGameFolder:
-      // While the settings still name the old game folder: the player's slots belong there.
-      if (chooser.ChosenFolder != Trimmed(program.archive.settings.GameFolder)) {
-        RestoreOriginalSavegames(program);
-      }
+      TakeGameFolder(program, chooser.ChosenFolder);
       chooser.field = chooser.ChosenFolder;
-      program.archive.ArchiveChanged = true;
       break;
     case ChooserMode::kCopy:
       return CopyOrMoveInto(program, chooser.ChosenFolder, CopyMode::kCopy);
@@ -213,6 +209,12 @@ std::optional<std::string> CreateSubfolder(Program& program, const std::string& 
   }
   PlaySoundEffect(program, SoundEffect::kNotice);
   return path;
+}
+
+void TakeGameFolder(Program& program, const std::string& folder) {
+  // While the settings still name the old game folder: the player's slots belong there.
+  if (folder != Trimmed(program.archive.settings.GameFolder)) RestoreOriginalSavegames(program);
+  program.archive.ArchiveChanged = true;
 }
 
 bool TakeFolder(Program& program, const std::string& folder) {

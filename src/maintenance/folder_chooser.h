@@ -43,6 +43,10 @@ std::optional<std::string> CreateSubfolder(Program& program, const std::string& 
 // or move before it begins; nothing but ChosenFolder has changed then.
 bool TakeFolder(Program& program, const std::string& folder);
 
+// What choosing a game folder for the archive's properties does at once: the player's own savegames
+// are put back when it is another one.
+void TakeGameFolder(Program& program, const std::string& folder);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_MAINTENANCE_FOLDER_CHOOSER_H_

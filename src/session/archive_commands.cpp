@@ -192,7 +192,10 @@ void LoadArchive(Program& program) {
                                                  .initial_name = ""});
   if (!chosen) return;
   const std::string path = Trimmed(*chosen);
-  if (!FitsRecord(program, path)) return;
+  if (FitsRecord(program, path)) OpenArchive(program, path);
+}
+
+void OpenArchive(Program& program, const std::string& path) {
   const auto read = ReadChosenArchive(program, path);
   if (!read) return;
 
@@ -206,6 +209,7 @@ void LoadArchive(Program& program) {
   program.archive.read_in_part.reset();
   program.archive.never_written = false;
   program.archive.ArchiveChanged = false;
+  program.session.missing_archive.clear();
   ClearMainWindow(program);
   ScanArchive(program);
 }

@@ -2,6 +2,8 @@
 #ifndef VELLUMARK_SESSION_ARCHIVE_COMMANDS_H_
 #define VELLUMARK_SESSION_ARCHIVE_COMMANDS_H_
 
+#include <string>
+
 namespace vellumark {
 
 struct Program;
@@ -30,6 +32,9 @@ void NewArchive(Program& program);
 // Asks for an archive file and opens it. A file that is no whole archive record is refused, and
 // everything stays as it was.
 void LoadArchive(Program& program);
+
+// The same for the archive file with this path, which must fit a record.
+void OpenArchive(Program& program, const std::string& path);
 
 }  // namespace vellumark
 

@@ -94,6 +94,7 @@ void ReadLastArchive(Program& program) {
   last = Trimmed(last);
   if (last.empty()) return;
   if (!FileExists(program.files, last)) {
+    program.session.missing_archive = last;
     last.clear();
     return;
   }

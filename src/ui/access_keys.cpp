@@ -22,7 +22,8 @@ constexpr AccessKey kPrincipaleKeys[] = {
     {"mnu_Delete", 'D'},       {"mnu_Reorder", 'O'},     {"mnu_Scansione", 'R'},
     {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'}, {"mnu_ShowHelp", 'H'},
     {"mnu_Rescued", 'S'},      {"mnu_View", 'V'},        {"mnu_ViewList", 'L'},
-    {"mnu_ViewPictures", 'P'},
+    {"mnu_ViewPictures", 'P'}, {"Pul_PageNew", 'N'},     {"Pul_PageOpen", 'O'},
+    {"Pul_PageHelp", 'W'},     {"Pul_PageAgain", 'G'},
 };
 
 constexpr AccessKey kSetNewArcKeys[] = {

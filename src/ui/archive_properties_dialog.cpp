@@ -3,11 +3,14 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "archive/archive_properties.h"
+#include "foundation/messages.h"
 #include "foundation/own_messages.h"
+#include "maintenance/folder_chooser.h"
 #include "program.h"
 #include "ui/controls.h"
 #include "ui/path_label.h"
@@ -72,10 +75,8 @@ ArchivePropertiesDialog::ArchivePropertiesDialog(Program& program)
     main_folder_->SetPath(
         ToText(ChooseMainFolder(this->program(), FromText(main_folder_->text()))));
   });
-  connect(browse_game, &QPushButton::clicked, this, [this] {
-    game_folder_->SetPath(
-        ToText(ChooseGameFolder(this->program(), FromText(game_folder_->text()))));
-  });
+  connect(browse_game, &QPushButton::clicked, this,
+          [this, browse_game] { BrowseForGame(browse_game); });
 }
 
 void ArchivePropertiesDialog::ImpostaValori() {
@@ -86,6 +87,34 @@ void ArchivePropertiesDialog::ImpostaValori() {
   base_name_->setText(ToText(fields.base_name));
   max_savegame_->setText(ToText(fields.max_savegame));
   setWindowTitle(ToText(ArchivePropertiesTitle(program())));
+}
+
+// Begins with a choice where several games were found.
+void ArchivePropertiesDialog::BrowseForGame(QPushButton* button) {
+  const std::vector<FoundGame> games = program().game_search.games;
+  if (games.size() < 2) return ChooseFolder();
+  QMenu choice(this);
+  choice.setObjectName(QStringLiteral("Games1"));
+  for (const FoundGame& game : games) {
+    connect(choice.addAction(ToText(game.folder).replace(u'&', QLatin1String("&&"))),
+            &QAction::triggered, this, [this, game] { TakeGame(game); });
+  }
+  choice.addSeparator();
+  connect(choice.addAction(ToText(LoadMessage(kOtherGameFolder))), &QAction::triggered, this,
+          &ArchivePropertiesDialog::ChooseFolder);
+  choice.setActiveAction(choice.actions().first());
+  choice.exec(button->mapToGlobal(button->rect().bottomLeft()));
+}
+
+void ArchivePropertiesDialog::ChooseFolder() {
+  game_folder_->SetPath(ToText(ChooseGameFolder(program(), FromText(game_folder_->text()))));
+}
+
+void ArchivePropertiesDialog::TakeGame(const FoundGame& game) {
+  TakeGameFolder(program(), game.folder);
+  game_folder_->SetPath(ToText(game.folder));
+  executable_->SetPath(ToText(game.executable));
+  max_savegame_->setText(QString::number(game.max_savegame));
 }
 
 void ArchivePropertiesDialog::ChooseExecutable() {

@@ -5,10 +5,12 @@
 #include "ui/modal_dialog.h"
 
 class QLineEdit;
+class QPushButton;
 
 namespace vellumark {
 
 class PathLabel;
+struct FoundGame;
 
 class ArchivePropertiesDialog final : public ModalDialog {
   Q_OBJECT
@@ -21,6 +23,9 @@ class ArchivePropertiesDialog final : public ModalDialog {
  private:
   void Accept();
   void ChooseExecutable();
+  void BrowseForGame(QPushButton* button);
+  void ChooseFolder();
+  void TakeGame(const FoundGame& game);
 
   PathLabel* main_folder_;
   PathLabel* game_folder_;

@@ -14,7 +14,7 @@ PathLabel::PathLabel(const char* name, QWidget* parent) : QLabel(parent) {
 
 void PathLabel::SetPath(const QString& path) {
   setText(path);
-  setToolTip(path);
+  setToolTip(Qt::mightBeRichText(path) ? path.toHtmlEscaped() : path);
 }
 
 QSize PathLabel::minimumSizeHint() const { return {120, QLabel::minimumSizeHint().height()}; }

@@ -29,12 +29,14 @@
 #include "savegames/details.h"
 #include "savegames/list_line.h"
 #include "savegames/notes.h"
+#include "session/first_page.h"
 #include "session/shut_down.h"
 #include "ui/archive_views.h"
 #include "ui/caption_setter.h"
 #include "ui/capture_dialog.h"
 #include "ui/commands.h"
 #include "ui/controls.h"
+#include "ui/first_page_view.h"
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
 #include "ui/pictures_view.h"
@@ -147,6 +149,7 @@ void Principale::BuildCentre() {
   menuBar()->insertMenu(findChild<QMenu*>(QStringLiteral("mnu_Tools"))->menuAction(),
                         new ViewMenu(*views_, this));
   BuildContextMenu();
+  BuildPage();
   splitter->addWidget(views_);
   splitter->addWidget(BuildDetails());
   splitter->setStretchFactor(0, 1);
@@ -220,14 +223,15 @@ QWidget* Principale::BuildBottomLine() {
   return line;
 }
 
-// The reading order: the list or the pictures, the details beside it, the lines below from left to
-// right.
+// The reading order: the list, the pictures or the page in their place, the details beside it, the
+// lines below from left to right.
 void Principale::SetTabOrder() {
   const char* const order[] = {
-      "List1",     "Pictures1",         "Pul_Zoom",         "Pul_CambiaProp",
-      "Text_Note", "Text_PathSavegame", "Text_TotSavegame", "Text_TotCartelle",
-      "Pul_Cerca", "Pul_Precedente",    "Text_Trovati",     "Pul_Seguente",
-      "Pul_Play",  "Pul_StartTomb"};
+      "List1",        "Pictures1",         "Pul_PageAgain",    "Pul_PageNew",
+      "Pul_PageOpen", "Pul_PageHelp",      "Pul_Zoom",         "Pul_CambiaProp",
+      "Text_Note",    "Text_PathSavegame", "Text_TotSavegame", "Text_TotCartelle",
+      "Pul_Cerca",    "Pul_Precedente",    "Text_Trovati",     "Pul_Seguente",
+      "Pul_Play",     "Pul_StartTomb"};
   QWidget* previous = nullptr;
   for (const char* name : order) {
     auto* control = findChild<QWidget*>(QLatin1String(name));
@@ -285,12 +289,48 @@ void Principale::Connect(const Command& command) {
   }
 }
 
-void Principale::Run(const Command& command) { command.run(*program_); }
+void Principale::Run(const Command& command) {
+  command.run(*program_);
+  RefreshPage();
+}
+
+void Principale::BuildPage() {
+  page_ = new FirstPageView(text_, views_);
+  views_->addWidget(page_);
+  const struct {
+    void (FirstPageView::*chosen)();
+    const char* command;
+  } buttons[] = {{&FirstPageView::NewChosen, "mnu_New"},
+                 {&FirstPageView::OpenChosen, "mnu_Load"},
+                 {&FirstPageView::HelpChosen, "mnu_ShowHelp"}};
+  for (const auto& button : buttons) {
+    connect(page_, button.chosen, findChild<QAction*>(QLatin1String(button.command)),
+            &QAction::trigger);
+  }
+  connect(page_, &FirstPageView::LookAgainChosen, this, [this] {
+    LookAgain(*program_);
+    RefreshPage();
+  });
+}
+
+void Principale::RefreshPage() {
+  const auto page = DescribeFirstPage(*program_);
+  if (page) page_->Describe(*page);
+  views_->ShowInstead(page ? page_ : nullptr);
+}
+
+void Principale::showEvent(QShowEvent* event) {
+  if (program_ != nullptr) RefreshPage();
+  views_->setFocus();
+  QMainWindow::showEvent(event);
+}
 
 void Principale::ShowLines(std::vector<std::string> lines) {
   QStringList shown;
   shown.reserve(static_cast<qsizetype>(lines.size()));
   for (const std::string& line : lines) shown.append(ToDisplayLine(text_, line, kNoteColumn));
+  // At once: a question may follow before the command has ended.
+  if (!lines.empty()) views_->ShowInstead(nullptr);
   views_->SetLines(std::move(shown));
 }
 

@@ -25,6 +25,7 @@ struct Command;
 struct Program;
 class ArchiveViews;
 class FileSystem;
+class FirstPageView;
 class ScreenShotViewer;
 class ShotBox;
 class Text;
@@ -38,6 +39,9 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   // Gives the window the program that its commands work on, and starts the timer. The program must
   // outlive the window's use.
   void Attach(Program& program);
+
+  // Shows what there is to say while there is no list, or takes that away.
+  void RefreshPage();
 
   // MainWindow
   void ShowLines(std::vector<std::string> lines) override;
@@ -62,11 +66,13 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void Closed();
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void BuildMenus();
   void BuildContextMenu();
+  void BuildPage();
   void BuildCentre();
   QWidget* BuildDetails();
   QWidget* BuildPathLine();
@@ -84,6 +90,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   bool closing_ = false;
 
   ArchiveViews* views_ = nullptr;
+  FirstPageView* page_ = nullptr;
   ShotBox* picture_ = nullptr;
   QPlainTextEdit* note_ = nullptr;
   QLineEdit* path_ = nullptr;

@@ -44,11 +44,16 @@ link_screen_shot() {
   wait_until_in_front "$game_title"
 }
 
+# Says yes to the question before the first start of a program that nobody has chosen; the archive of
+# a demo world names one.
+confirm_program() { answer_message_box alt+y; }
+
 # Plays a savegame without note and screen-shot and one with both, in a game folder that the game
-# knows by this name.
+# knows by this name. `first`: the program has not been confirmed yet.
 play_two() {
   select_lines 2 17
   press_in "$main" ctrl+p
+  [ "${2:-}" != first ] || confirm_program
   wait_until_in_front "$game_title"
   wait_for_log 1 "folder $1"
   wait_for_log 2 'slot .*'

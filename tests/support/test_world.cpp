@@ -58,6 +58,7 @@ Program TestWorld::NewProgram(Windows& shown, MainWindow& main_window) {
                   .windows = shown,
                   .main_window = main_window};
   program.paths.ProgramFolder = "T:\\Program";
+  program.trust.programs = {WorldSettings().GameExecutable};
   return program;
 }
 
