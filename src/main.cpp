@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "foundation/about.h"
 #include "foundation/companion_files.h"
 #include "foundation/failures.h"
 #include "foundation/messages.h"
@@ -74,6 +75,13 @@ void SetIcon(FileSystem& files, const ProgramPaths& paths) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  // Asked on a terminal: needs no display, and leaves everything as it is.
+  if (argc == 2) {
+    if (const auto answer = TerminalAnswer(argv[1])) {
+      PrintOnTerminal(*answer);
+      return 0;
+    }
+  }
   const std::jthread reading_ahead(ReadAheadForFirstWindow);
   std::vector<char*> arguments = WindowArguments(argc, argv);
   argc = static_cast<int>(arguments.size()) - 1;

@@ -140,6 +140,7 @@ constexpr Caption kPrincipale[] = {
     {"mnu_PrefManager", 255, 0},
     {"mnu_Help", 256, 0},
     {"mnu_ShowHelp", 257, 0},
+    {"mnu_About", kAboutCommand, 0},
 };
 
 }  // namespace

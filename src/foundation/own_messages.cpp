@@ -343,6 +343,30 @@ constexpr TableMessage kOwnMessages[] = {
     {kFailureAtTarget, " (when writing ~1)"},
     {kMoreFailures, "... and ~1 more"},
 
+    {kAboutCommand, "About Vellumark"},
+    {kAbout,
+     "Vellumark ~1~2"
+     "An archive of your savegames of Tomb Raider - The Last Revelation.~2~2"
+     "Copyright 2026 The Vellumark authors. Free software under the MIT licence, without any "
+     "warranty. Vellumark is not connected with the makers of the game.~2~2"
+     "Its windows and pictures are made by Qt, free software under the GNU Lesser General Public "
+     "License, version 3. The Windows program has Qt inside, with zlib, libpng, libjpeg, FreeType, "
+     "HarfBuzz, PCRE2 and double-conversion, and the libraries of its compiler; their licences "
+     "stand in the folder \"licences\" beside it. On Linux it also uses XCB (MIT licence); the "
+     "licences of these libraries came with them."},
+    {kTerminalVersion, "Vellumark ~1\n"},
+    {kTerminalHelp,
+     "Usage: vellumark [--portable] [FILE]\n"
+     "Keeps an archive of your savegames of Tomb Raider - The Last Revelation.\n"
+     "\n"
+     "  ARCHIVE.vmk      opens this archive instead of the one that was used last\n"
+     "  PREFERENCES.prf  uses this preferences file instead of the usual one\n"
+     "  --portable       keeps everything beside the program, wherever it lies\n"
+     "  --version        prints the version\n"
+     "  -h, --help       prints this help\n"
+     "\n"
+     "The whole command line is one path: blanks in it need no quotes of their own.\n"},
+
     {kRescuedCommand, "Savegames set aside ..."},
     {kRescuedTitle, "Savegames set aside"},
     {kRescuedHead, "What Vellumark has set aside beside the program, so that nothing is lost:"},

@@ -207,6 +207,12 @@ enum OwnMessage : int {
   kFailureAtTarget,  // ~1 file
   kMoreFailures,     // ~1 number
 
+  // About the program
+  kAboutCommand,
+  kAbout,            // ~1 version, ~2 line break
+  kTerminalVersion,  // ~1 version; for a terminal
+  kTerminalHelp,     // for a terminal
+
   // The dialog of what was set aside
   kRescuedCommand,
   kRescuedTitle,

@@ -19,6 +19,10 @@ std::vector<char*> WindowArguments(int argc, char* argv[]);
 // typed. To be called while there is an application.
 std::string ArgumentsAsTyped();
 
+// Writes a text to where the program's output goes: a file, another program, or the terminal that
+// it was started from. Without any of these nothing happens.
+void PrintOnTerminal(const std::string& text);
+
 std::unique_ptr<Shell> MakeShell();
 
 // `program_folder` is the executable's, a host path, UTF-8.

@@ -23,7 +23,7 @@ constexpr AccessKey kPrincipaleKeys[] = {
     {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'}, {"mnu_ShowHelp", 'H'},
     {"mnu_Rescued", 'S'},      {"mnu_View", 'V'},        {"mnu_ViewList", 'L'},
     {"mnu_ViewPictures", 'P'}, {"Pul_PageNew", 'N'},     {"Pul_PageOpen", 'O'},
-    {"Pul_PageHelp", 'W'},     {"Pul_PageAgain", 'G'},
+    {"Pul_PageHelp", 'W'},     {"Pul_PageAgain", 'G'},   {"mnu_About", 'A'},
 };
 
 constexpr AccessKey kSetNewArcKeys[] = {

@@ -1,6 +1,7 @@
 #include "ui/commands.h"
 
 #include "archive/scan.h"
+#include "foundation/about.h"
 #include "foundation/help.h"
 #include "foundation/windows.h"
 #include "game/import.h"
@@ -49,6 +50,7 @@ constexpr Command kCommands[] = {
     {"mnu_Preference", "mnu_PrefManager", nullptr, "", Show<WindowId::kDialogPref>},
 
     {"mnu_Help", "mnu_ShowHelp", nullptr, "F1", ShowHelp},
+    {"mnu_Help", "mnu_About", nullptr, "", ShowAbout},
 
     {nullptr, nullptr, "Pul_StartTomb", "", StartGame},
     {nullptr, nullptr, "Pul_Zoom", "", ShowScreenShot},

@@ -5,7 +5,7 @@ work=$(mktemp -d)
 start_window_manager
 leave() {
   kill $manager ${program:-} 2>/dev/null || true
-  rm -rf "$work"
+  [ -n "${KEEP_WORK:-}" ] || rm -rf "$work"
 }
 trap leave EXIT
 

@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 
+#include "foundation/version.h"
 #include "foundation/working.h"
 #include "platform/qt/opener.h"
 #include "platform/qt/qt_text.h"
@@ -39,6 +40,7 @@ class PrincipaleTest : public WindowFixture {
   void TheViewerShowsThePictureOfItsOpening();
   void TheWindowFitsSmallScreensAndLarge();
   void HelpOpensTheTextBesideTheProgram();
+  void AboutNamesTheVersionAndTheLicences();
   void ClosingShutsDownOnce();
 
  private:
@@ -383,6 +385,16 @@ void PrincipaleTest::HelpOpensTheTextBesideTheProgram() {
   world_->shell.answer = false;
   Find<QAction>("mnu_ShowHelp")->trigger();
   QVERIFY(world_->boxes.shown.back().text.starts_with("No program could be started"));
+}
+
+void PrincipaleTest::AboutNamesTheVersionAndTheLicences() {
+  Find<QAction>("mnu_About")->trigger();
+  const std::string text = world_->boxes.shown.back().text;
+  QVERIFY(text.starts_with(std::string("Vellumark ") + Version() + "\r\n"));
+  for (const char* licence : {"MIT licence", "GNU Lesser General Public License, version 3"}) {
+    QVERIFY(text.find(licence) != std::string::npos);
+  }
+  QVERIFY(text.find('~') == std::string::npos);
 }
 
 void PrincipaleTest::ClosingShutsDownOnce() {

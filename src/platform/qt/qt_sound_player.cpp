@@ -8,7 +8,8 @@ QtSoundPlayer::QtSoundPlayer(const QString& program_folder) : program_folder_(pr
 
 void QtSoundPlayer::Play(const std::string& host_path) {
   if (!std::exchange(tried_, true)) {
-    for (const char* place : {"/libvellumark_sound", "/../lib/vellumark/libvellumark_sound"}) {
+    for (const char* place :
+         {"/libvellumark_sound", "/../lib/vellumark/plugins/libvellumark_sound"}) {
       module_.setFileName(program_folder_ + QLatin1String(place));
       if (module_.load()) break;
     }

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <cstdio>
 
 #include "platform/qt/qt_shell.h"
 #include "platform/qt/qt_sound_player.h"
@@ -27,6 +28,8 @@ std::vector<char*> WindowArguments(int argc, char* argv[]) {
 std::string ArgumentsAsTyped() {
   return QCoreApplication::arguments().mid(1).join(u' ').toStdString();
 }
+
+void PrintOnTerminal(const std::string& text) { std::fputs(text.c_str(), stdout); }
 
 std::unique_ptr<Shell> MakeShell() { return std::make_unique<QtShell>(); }
 

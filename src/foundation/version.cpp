@@ -1,0 +1,7 @@
+#include "foundation/version.h"
+
+namespace vellumark {
+
+const char* Version() { return VELLUMARK_VERSION; }
+
+}  // namespace vellumark
