@@ -6,8 +6,14 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 
 namespace vellumark::bench {
+namespace {
+
+constexpr const char* kDropCaches = "/proc/sys/vm/drop_caches";
+
+}  // namespace
 
 void Fail(const std::string& why) {
   std::fprintf(stderr, "%s\n", why.c_str());
@@ -48,6 +54,16 @@ void WaitForSuccess(int process, const std::string& name) {
   int status = 0;
   const bool ended = waitpid(process, &status, 0) == process;
   Require(ended && WIFEXITED(status) && WEXITSTATUS(status) == 0, name + " has failed.");
+}
+
+bool MayDropCaches() { return access(kDropCaches, W_OK) == 0; }
+
+void DropCaches() {
+  sync();
+  std::ofstream file(kDropCaches);
+  file << 3;
+  file.close();
+  Require(file.good(), "Cannot empty the caches.");
 }
 
 }  // namespace vellumark::bench

@@ -31,6 +31,12 @@ int StartProgram(const std::vector<std::string>& command);
 // Fails unless the process ends well.
 void WaitForSuccess(int process, const std::string& name);
 
+// Whether this user may empty the system's caches of files and folders.
+bool MayDropCaches();
+
+// Empties them, as they are after the system has started.
+void DropCaches();
+
 }  // namespace vellumark::bench
 
 #endif  // VELLUMARK_BENCH_BENCH_RUN_H_

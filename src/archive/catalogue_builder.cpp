@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "foundation/file_utilities.h"
-#include "foundation/parallel.h"
 #include "foundation/paths.h"
+#include "platform/common/parallel.h"
 #include "platform/text.h"
 #include "savegames/notes.h"
 #include "savegames/savegame_header.h"
@@ -222,8 +222,16 @@ class Builder {
       return;
     }
     std::vector<ReadFolder> read(jobs.size());
-    ForEachIndex(jobs.size(), kThreads,
-                 [&](std::size_t i) { read[i] = read_one(jobs[i], Catalogue::kMostEntries); });
+    std::function<void(std::size_t)> show;
+    if (request_.show) {
+      show = [&](std::size_t done) {
+        request_.show(static_cast<int>(done), static_cast<int>(jobs.size()));
+      };
+    }
+    const auto read_job = [&](std::size_t i) {
+      read[i] = read_one(jobs[i], Catalogue::kMostEntries);
+    };
+    ForEachIndex(jobs.size(), kThreads, read_job, show);
     for (std::size_t i = 0; i < jobs.size(); ++i) Take(std::move(read[i]), jobs[i]);
   }
 

@@ -2,6 +2,7 @@
 #ifndef VELLUMARK_ARCHIVE_CATALOGUE_BUILDER_H_
 #define VELLUMARK_ARCHIVE_CATALOGUE_BUILDER_H_
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,9 @@ struct CatalogueRequest {
   const ArchiveSettings& settings;
   const std::string& game_folder;  // the folder that is listed with folder number 0
   bool all_subfolders = false;     // every first-level folder instead of the numbered ones
+  // Where given, it is told every now and then, on the calling thread, how many folders of how many
+  // are read, as long as others read them.
+  std::function<void(int done, int all)> show{};
 };
 
 struct ScannedCatalogue {

@@ -9,6 +9,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/windows.h"
 #include "foundation/working.h"
 #include "program.h"
 #include "savegames/details.h"
@@ -36,10 +37,12 @@ ScannedCatalogue ReadFolders(Program& program) {
   const std::string& game_folder = program.play.ExaminedInGameFolder && !program.play.given_back
                                        ? program.play.BackupFolder
                                        : settings.GameFolder;
-  return BuildCatalogue(program.files, program.text,
-                        {.settings = settings,
-                         .game_folder = game_folder,
-                         .all_subfolders = program.preferences.ScanAllSubfolders});
+  return BuildCatalogue(
+      program.files, program.text,
+      {.settings = settings,
+       .game_folder = game_folder,
+       .all_subfolders = program.preferences.ScanAllSubfolders,
+       .show = [&program](int done, int all) { program.windows.ShowProgress(done, all); }});
 }
 
 void ShowCatalogue(Program& program, const std::vector<bool>& has_shot) {

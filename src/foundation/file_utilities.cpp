@@ -4,6 +4,7 @@
 
 #include "foundation/paths.h"
 #include "foundation/strings.h"
+#include "platform/common/bulk_copy.h"
 #include "platform/common/temporary_prefix.h"
 #include "platform/shell.h"
 #include "platform/text.h"
@@ -80,6 +81,33 @@ bool CopyFileReplacing(FileSystem& files, const std::string& source, const std::
   }
   if (why != nullptr) *why = error;
   return error == FileError::kNone;
+}
+
+void CopyAllReplacing(FileSystem& files, std::vector<CopyGroup>& groups,
+                      const std::function<bool(std::size_t)>& begin) {
+  std::vector<CopyGroup> free(groups.size());
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    const bool is_free = std::ranges::all_of(groups[i], [&](const CopyJob& job) {
+      return files.Attributes(job.target).error == FileError::kNotFound;
+    });
+    if (is_free) free[i] = groups[i];
+  }
+  std::size_t begun = 0;
+  files.CopyAllVerified(free, [&](std::size_t i) {
+    const bool goes_on = begin(i);
+    begun += goes_on ? 1 : 0;
+    return goes_on;
+  });
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    CopyInOrder(groups[i], [&](std::size_t number, const CopyJob& job) {
+      if (i >= begun) return FileError::kStopped;
+      const bool taken = free[i].empty() || free[i][number].error == FileError::kAlreadyExists;
+      if (!taken) return free[i][number].error;
+      FileError error = FileError::kNone;
+      CopyFileReplacing(files, job.source, job.target, &error);
+      return error;
+    });
+  }
 }
 
 bool DeleteFileForced(FileSystem& files, const std::string& path, FileError* why) {

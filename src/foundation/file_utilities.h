@@ -3,8 +3,11 @@
 #ifndef VELLUMARK_FOUNDATION_FILE_UTILITIES_H_
 #define VELLUMARK_FOUNDATION_FILE_UTILITIES_H_
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -30,6 +33,11 @@ bool SameContent(FileSystem& files, const std::string& a, const std::string& b);
 // success without a change. On false `why`, where given, tells the reason.
 bool CopyFileReplacing(FileSystem& files, const std::string& source, const std::string& destination,
                        FileError* why = nullptr);
+
+// The same for all files of all groups, which are copied in bulk where nothing has their names;
+// sets the error of each. `begin` as with FileSystem::CopyAllVerified.
+void CopyAllReplacing(FileSystem& files, std::vector<CopyGroup>& groups,
+                      const std::function<bool(std::size_t)>& begin);
 
 // Deletes a file whatever its attributes. True when the file is gone or never was.
 bool DeleteFileForced(FileSystem& files, const std::string& path, FileError* why = nullptr);

@@ -12,6 +12,7 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/talk.h"
+#include "foundation/windows.h"
 #include "foundation/working.h"
 #include "game/next_subfolder.h"
 #include "game/slot_release.h"
@@ -127,7 +128,8 @@ void ImportSavegames(Program& program) {
   SlotCopies copies;
   {
     const WorkScope working(program);
-    copies = CopySlots(program.files, game_folder, subfolder, settings.MaxSavegame);
+    copies = CopySlots(program.files, game_folder, subfolder, settings.MaxSavegame,
+                       [&](int done, int all) { program.windows.ShowProgress(done, all); });
     if (copies.count > 0) {
       problems.release = ReleaseCopiedSlots(program.files, game_folder, subfolder, copies);
       problems.not_copied = copies.failures;

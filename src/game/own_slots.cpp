@@ -139,16 +139,18 @@ std::vector<Failure> PutOwnSlotsAside(Program& program, const std::string& game_
   if (error != FileError::kNone) failures.push_back({game_folder, error});
   play.backup_of = game_folder;
   play.backed_up.clear();
-  for (const std::string& path : slots) {
-    const std::string copy = BackupCopyOf(program, path);
-    error = program.files.CopyVerified(path, copy);
-    if (error == FileError::kNone) {
-      play.backed_up.push_back(FileNameOf(copy));
-    } else if (error == FileError::kAlreadyExists) {
+  std::vector<CopyGroup> copies;
+  for (const std::string& path : slots) copies.push_back({{path, BackupCopyOf(program, path)}});
+  program.files.CopyAllVerified(copies, [](std::size_t) { return true; });
+  for (const CopyGroup& copy : copies) {
+    const CopyJob& file = copy.front();
+    if (file.error == FileError::kNone) {
+      play.backed_up.push_back(FileNameOf(file.target));
+    } else if (file.error == FileError::kAlreadyExists) {
       // The name stands in the game folder twice, in different letter case.
-      failures.push_back({path, FileError::kAmbiguous});
+      failures.push_back({file.source, FileError::kAmbiguous});
     } else {
-      failures.push_back(FailureOfCopy(program.files, path, copy, error));
+      failures.push_back(FailureOfCopy(program.files, file.source, file.target, file.error));
     }
   }
   if (failures.empty()) {
@@ -277,10 +279,13 @@ std::vector<Failure> CopyBackupHome(Program& program) {
   const auto backup = FilesOfSlots(program.files, play.BackupFolder, &error);
   if (error != FileError::kNone) return {{play.BackupFolder, error}};
   std::vector<Failure> failures;
-  for (const std::string& path : backup) {
-    const std::string home = HomeOf(program, path);
-    if (CopyFileReplacing(program.files, path, home, &error)) continue;
-    failures.push_back(FailureOfCopy(program.files, path, home, error));
+  std::vector<CopyGroup> copies;
+  for (const std::string& path : backup) copies.push_back({{path, HomeOf(program, path)}});
+  CopyAllReplacing(program.files, copies, [](std::size_t) { return true; });
+  for (const CopyGroup& copy : copies) {
+    const CopyJob& file = copy.front();
+    if (file.error == FileError::kNone) continue;
+    failures.push_back(FailureOfCopy(program.files, file.source, file.target, file.error));
   }
   play.given_back = failures.empty();
   if (play.given_back && program.files.Flush(HomesOf(program, backup)) == FileError::kNone) {

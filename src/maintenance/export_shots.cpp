@@ -68,17 +68,22 @@ class Export {
       const std::string stem = StemOf(*entry);
       if (SafePart(stem) == stem) NameFor(stem);
     }
-    int done = 0;
+    std::vector<CopyGroup> copies;
+    copies.reserve(entries_.size());
     for (const SavegameEntry* entry : entries_) {
-      program_.windows.ShowProgress(done++, count());
-      if (IsEnding(program_)) {
-        failures_.push_back({entry->ShotPath, FileError::kStopped});
-        continue;
+      copies.push_back({{entry->ShotPath, NameFor(StemOf(*entry))}});
+    }
+    CopyAllReplacing(files_, copies, [this](std::size_t i) {
+      program_.windows.ShowProgress(static_cast<int>(i), count());
+      return !IsEnding(program_);
+    });
+    for (const CopyGroup& copy : copies) {
+      const CopyJob& shot = copy.front();
+      if (shot.error == FileError::kStopped) {
+        failures_.push_back({shot.source, FileError::kStopped});
+      } else if (shot.error != FileError::kNone) {
+        failures_.push_back(FailureOfCopy(files_, shot.source, shot.target, shot.error));
       }
-      const std::string target = NameFor(StemOf(*entry));
-      const FileError why = Copy(entry->ShotPath, target);
-      if (why == FileError::kNone) continue;
-      failures_.push_back(FailureOfCopy(files_, entry->ShotPath, target, why));
     }
   }
 
@@ -115,16 +120,6 @@ class Export {
     }
     paths_.emplace(key, path);
     return path;
-  }
-
-  FileError Copy(const std::string& shot, const std::string& target) {
-    // Where nothing is replaced, it needs no detour over a temporary name.
-    if (files_.Attributes(target).error == FileError::kNotFound) {
-      return files_.CopyVerified(shot, target);
-    }
-    FileError why = FileError::kNone;
-    CopyFileReplacing(files_, shot, target, &why);
-    return why;
   }
 
   bool IsLinkedShot(const std::string& path) {

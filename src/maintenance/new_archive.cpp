@@ -103,14 +103,13 @@ void NewArchive::Copy(bool deletes_old, const ShowPercent& show) {
   {
     const auto hold = program_.files.HoldFolders();
     const auto count = static_cast<int>(plan_.order.size());
-    for (int position = 0; position < count && !stopped; ++position) {
+    const std::vector<CopyGroup> groups = CopyInBulk([&](int position) {
       show(CopyingPercent(position, count, deletes_old));
-      if (IsEnding(program_)) {
-        stopped = {Folder(static_cast<int>(made_.size()) + 1), FileError::kStopped};
-        break;
-      }
-      Place(plan_.order[static_cast<std::size_t>(position)]);
-    }
+      if (!IsEnding(program_)) return true;
+      stopped = {Folder(static_cast<int>(made_.size()) + 1), FileError::kStopped};
+      return false;
+    });
+    TakeResults(groups);
   }
   std::vector<std::string> written;
   for (std::size_t i = 0; i < made_.size() && !stopped; ++i) {
@@ -121,17 +120,56 @@ void NewArchive::Copy(bool deletes_old, const ShowPercent& show) {
   if (!written.empty()) flush = program_.files.Flush(written);
 }
 
-void NewArchive::Place(std::size_t index) {
-  const SavegameFate& fate = plan_.fates[index];
-  if (fate.kind == SavegameFate::Kind::kLeft || arrived_[fate.equal] || !HasFolder(fate.folder)) {
-    return;
+// A group for each position of the plan's order; an empty one where nothing is to be copied.
+std::vector<CopyGroup> NewArchive::CopyInBulk(const std::function<bool(int)>& go_on) {
+  std::vector<CopyGroup> groups;
+  groups.reserve(plan_.order.size());
+  for (const std::size_t index : plan_.order) {
+    groups.push_back(GroupOf(files_[index], plan_.fates[index].folder));
   }
-  const bool stands_in = fate.kind == SavegameFate::Kind::kDropped;
-  const Files files = stands_in ? FilesOf(index) : std::move(files_[index]);
-  // Without the savegame, what belongs to it would belong to the slot's next one.
-  if (!CopyFile(files[0], fate.folder)) return;
+  program_.files.CopyAllVerified(groups, [&](std::size_t position) {
+    if (!go_on(static_cast<int>(position))) return false;
+    return groups[position].empty() || HasFolder(plan_.fates[plan_.order[position]].folder);
+  });
+  return groups;
+}
+
+// Without the savegame, what belongs to it would belong to the slot's next one. Nothing is
+// replaced, so it needs no detour over a temporary name.
+CopyGroup NewArchive::GroupOf(const Files& files, int folder) const {
+  CopyGroup group;
+  for (const File& file : files) {
+    group.push_back({file.source, InFolder(FolderNow(folder), file.name)});
+  }
+  return group;
+}
+
+void NewArchive::TakeResults(const std::vector<CopyGroup>& groups) {
+  for (std::size_t position = 0; position < groups.size(); ++position) {
+    const std::size_t index = plan_.order[position];
+    const SavegameFate& fate = plan_.fates[index];
+    if (fate.kind == SavegameFate::Kind::kCopied) TakeResult(index, groups[position]);
+    const bool dropped = fate.kind == SavegameFate::Kind::kDropped;
+    if (!dropped || arrived_[fate.equal] || stopped) continue;
+    std::vector<CopyGroup> group{GroupOf(FilesOf(index), fate.folder)};
+    program_.files.CopyAllVerified(group, [](std::size_t) { return true; });
+    TakeResult(index, group[0]);
+  }
+}
+
+void NewArchive::TakeResult(std::size_t index, const CopyGroup& group) {
+  const SavegameFate& fate = plan_.fates[index];
+  for (const CopyJob& job : group) {
+    const std::string name = FileNameOf(job.target);
+    if (job.error == FileError::kNone) {
+      made_[static_cast<std::size_t>(fate.folder) - 1].push_back(name);
+      continue;
+    }
+    const std::string shown = InFolder(Folder(fate.folder), name);
+    not_copied.push_back(FailureOfCopy(program_.files, job.source, shown, job.error));
+    if (&job == &group[0]) return;
+  }
   arrived_[fate.equal] = true;
-  for (std::size_t i = 1; i < files.size(); ++i) CopyFile(files[i], fate.folder);
 }
 
 // The folders come one after the other.
@@ -143,19 +181,6 @@ bool NewArchive::HasFolder(int number) {
     made_.emplace_back();
   } else {
     stopped = {Folder(number), error};
-  }
-  return error == FileError::kNone;
-}
-
-bool NewArchive::CopyFile(const File& file, int folder) {
-  // Nothing is replaced, so it needs no detour over a temporary name.
-  const std::string target = InFolder(FolderNow(folder), file.name);
-  const FileError error = program_.files.CopyVerified(file.source, target);
-  if (error == FileError::kNone) {
-    made_[static_cast<std::size_t>(folder) - 1].push_back(file.name);
-  } else {
-    const std::string shown = InFolder(Folder(folder), file.name);
-    not_copied.push_back(FailureOfCopy(program_.files, file.source, shown, error));
   }
   return error == FileError::kNone;
 }

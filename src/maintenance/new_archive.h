@@ -74,8 +74,10 @@ class NewArchive {
   std::string DiskSpelling(const std::string& path);
   std::string FolderNow(int number) const;
   bool HasFolder(int number);
-  void Place(std::size_t index);
-  bool CopyFile(const File& file, int folder);
+  std::vector<CopyGroup> CopyInBulk(const std::function<bool(int)>& go_on);
+  CopyGroup GroupOf(const Files& files, int folder) const;
+  void TakeResults(const std::vector<CopyGroup>& groups);
+  void TakeResult(std::size_t index, const CopyGroup& group);
 
   Program& program_;
   const ReorderTarget& target_;

@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -132,6 +133,17 @@ struct LockResult {
   std::unique_ptr<FolderLock> lock;  // set when answer is kTaken
 };
 
+// A file to be copied, and what became of it.
+struct CopyJob {
+  std::string source;
+  std::string target;
+  FileError error = FileError::kNone;
+};
+
+// Files that belong together: where the first does not arrive, the others stay behind with its
+// error.
+using CopyGroup = std::vector<CopyJob>;
+
 enum class RenameMode { kRefuseExisting, kReplaceFile };
 
 class FileSystem {
@@ -203,6 +215,13 @@ class FileSystem {
   // Copies as Copy does, reads the copy back and compares; one that differs is taken away again and
   // is kInputOutput. Built from the other operations where a system has nothing faster.
   virtual FileError CopyVerified(const std::string& source, const std::string& target);
+
+  // CopyVerified for all files of all groups, with the results of doing it in their order; sets the
+  // error of each. Before each group, and in their order, it asks `begin` on the calling thread;
+  // where that answers false, the group and all after it get kStopped. A system that gains from it
+  // copies on several threads: groups before may not have arrived yet then.
+  virtual void CopyAllVerified(std::vector<CopyGroup>& groups,
+                               const std::function<bool(std::size_t)>& begin);
 
   // Returns when the contents and names of these files are safe on the medium. One call for all
   // files of an operation is cheaper than one call each.

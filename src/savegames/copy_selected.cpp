@@ -47,13 +47,15 @@ class Copier {
     };
     // What is moved within the folder gives its number back for the next.
     const bool one_by_one = std::ranges::any_of(savegames, lies_here);
+    count_ = savegames.size();
 
-    std::vector<CopiedSavegame> moved;
-    int position = 0;
-    for (const SavegameFiles& savegame : savegames) {
-      program_.windows.ShowProgress(position, static_cast<int>(savegames.size()));
-      int slot = renumber ? position : savegame.slot;
-      ++position;
+    for (std::size_t position = 0; position < count_; ++position) {
+      const SavegameFiles& savegame = savegames[position];
+      int slot = renumber ? static_cast<int>(position) : savegame.slot;
+      // Only where no number depends on what has become of the savegames before.
+      if (!one_by_one && !probe && AddToBulk(savegame, slot)) continue;
+      CopyBulk();
+      program_.windows.ShowProgress(static_cast<int>(begun_++), static_cast<int>(count_));
       FileError no_number = probe ? FindFreeNumber(slot) : FileError::kNone;
       if (IsEnding(program_)) no_number = FileError::kStopped;
       if (no_number != FileError::kNone) {
@@ -63,13 +65,14 @@ class Copier {
       const auto copied = CopyOne(savegame, slot);
       if (mode_ == CopyMode::kCopy || !copied) continue;
       if (!one_by_one) {
-        moved.push_back(*copied);
+        moved_.push_back(*copied);
         continue;
       }
       DeleteSources({*copied});
       if (lies_here(savegame)) lowest_free_ = std::min<int>(lowest_free_, savegame.slot);
     }
-    if (!moved.empty()) DeleteSources(moved);
+    CopyBulk();
+    if (!moved_.empty()) DeleteSources(moved_);
     copies_.rescue_folder = rescue_.folder();
     return std::move(copies_);
   }
@@ -103,6 +106,70 @@ class Copier {
       if (error == FileError::kNotFound) return FileError::kNone;
       if (error != FileError::kNone && error != FileError::kAmbiguous) return error;
     }
+  }
+
+  // Takes a savegame into the next bulk copy when nothing is in its way there, and nothing that it
+  // brings is in the way of another.
+  bool AddToBulk(const SavegameFiles& savegame, int slot) {
+    const std::string key = FileKey(savegame.savegame);
+    if (written_.contains(key) || bulk_targets_.contains(key) || handled_.contains(key))
+      return false;
+
+    CopyGroup group;
+    for (const auto& [from, name] : {std::pair(savegame.savegame, SavegameFileName(slot)),
+                                     std::pair(savegame.note, NoteFileName(slot)),
+                                     std::pair(savegame.shot, ShotFileName(slot))}) {
+      const AttributesResult source = files_.Attributes(from);
+      const bool there = source.error == FileError::kNone && source.attributes.IsPlainFile();
+      if (!there && group.empty()) return false;
+      if (!there && source.error != FileError::kNone && source.error != FileError::kNotFound) {
+        return false;
+      }
+      const std::string to = InFolder(folder_, name);
+      if (bulk_targets_.contains(FileKey(from)) || bulk_targets_.contains(FileKey(to)))
+        return false;
+      if (!there) continue;
+      if (files_.Attributes(to).error != FileError::kNotFound) return false;
+      group.push_back({from, to});
+    }
+    for (const CopyJob& job : group) bulk_targets_.insert(FileKey(job.target));
+    if (mode_ == CopyMode::kMove) handled_.insert(key);
+    bulk_.push_back(std::move(group));
+    return true;
+  }
+
+  // Copies what was taken, and tells what has become of it as CopyOne does.
+  void CopyBulk() {
+    files_.CopyAllVerified(bulk_, [this](std::size_t) {
+      program_.windows.ShowProgress(static_cast<int>(begun_++), static_cast<int>(count_));
+      return !IsEnding(program_);
+    });
+    for (const CopyGroup& group : bulk_) TakeResult(group);
+    bulk_.clear();
+    bulk_targets_.clear();
+  }
+
+  void TakeResult(const CopyGroup& group) {
+    if (group.front().error == FileError::kStopped) {
+      copies_.not_copied.push_back({group.front().source, FileError::kStopped});
+      return;
+    }
+    CopiedSavegame copied;
+    bool whole = true;
+    for (const CopyJob& job : group) {
+      if (job.error == FileError::kNone) {
+        written_.insert(FileKey(job.target));
+        copies_.targets.push_back(job.target);
+        copied.push_back({job.source, job.target});
+        continue;
+      }
+      const bool gone = job.error == FileError::kNotFound && &job != &group.front();
+      if (gone) continue;
+      NoteFailure(job.source, FileNameOf(job.target), job.error);
+      whole = false;
+      if (&job == &group.front()) return;
+    }
+    if (mode_ == CopyMode::kMove && whole) moved_.push_back(std::move(copied));
   }
 
   // The files that were copied; nothing when the savegame has not arrived whole. Where the savegame
@@ -222,8 +289,13 @@ class Copier {
   const CopyMode mode_;
 
   int lowest_free_ = 0;
-  std::set<std::string> written_;  // the keys of the files that this operation has made
-  std::set<std::string> handled_;  // the keys of the savegames that were moved, or tried
+  std::size_t count_ = 0;
+  std::size_t begun_ = 0;               // savegames that were tried
+  std::vector<CopyGroup> bulk_;         // taken, but not copied yet
+  std::set<std::string> bulk_targets_;  // the keys of their copies
+  std::vector<CopiedSavegame> moved_;   // copied, but not deleted yet
+  std::set<std::string> written_;       // the keys of the files that this operation has made
+  std::set<std::string> handled_;       // the keys of the savegames that were moved, or tried
   Rescue rescue_;
   SelectedCopies copies_;
 };

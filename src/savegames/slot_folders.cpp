@@ -18,36 +18,45 @@ FileError AddMatching(FileSystem& files, const std::string& folder, const std::s
   return listing.error;
 }
 
+void TakeResults(FileSystem& files, const CopyGroup& group, SlotCopies& copies) {
+  for (const CopyJob& job : group) {
+    if (job.error == FileError::kNone) {
+      copies.targets.push_back(job.target);
+      continue;
+    }
+    copies.failures.push_back(FailureOfCopy(files, job.source, job.target, job.error));
+    // The others have stayed behind with the savegame.
+    if (&job == &group.front()) return;
+  }
+}
+
 }  // namespace
 
 SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::string& target,
-                     int max_savegame) {
+                     int max_savegame, const std::function<void(int done, int all)>& show) {
   SlotCopies copies;
-  const auto copy = [&](const std::string& name) {
-    const std::string from = InFolder(source, name);
-    const std::string to = InFolder(target, name);
-    FileError why = FileError::kNone;
-    const bool copied = CopyFileReplacing(files, from, to, &why);
-    if (copied) {
-      copies.targets.push_back(to);
-    } else {
-      copies.failures.push_back(FailureOfCopy(files, from, to, why));
-    }
-    return copied;
-  };
-
   const Listing listing = files.List(InFolder(source, "*"));
   const SlotListing found = SlotsOf(listing, max_savegame);
   for (const std::string& name : found.ambiguous) {
     copies.failures.push_back({InFolder(source, name), FileError::kAmbiguous});
   }
+  std::vector<CopyGroup> groups;
   for (const Slot& slot : found.slots) {
     ++copies.count;
     copies.HighestCopiedSlot = static_cast<std::int16_t>(slot.number);
-    if (!copy(SavegameFileName(slot.number))) continue;
-    if (slot.note != nullptr) copy(NoteFileName(slot.number));
-    if (slot.shot != nullptr) copy(ShotFileName(slot.number));
+    CopyGroup& group = groups.emplace_back();
+    const auto add = [&](const std::string& name) {
+      group.push_back({InFolder(source, name), InFolder(target, name)});
+    };
+    add(SavegameFileName(slot.number));
+    if (slot.note != nullptr) add(NoteFileName(slot.number));
+    if (slot.shot != nullptr) add(ShotFileName(slot.number));
   }
+  CopyAllReplacing(files, groups, [&](std::size_t i) {
+    if (show) show(static_cast<int>(i), static_cast<int>(groups.size()));
+    return true;
+  });
+  for (const CopyGroup& group : groups) TakeResults(files, group, copies);
   return copies;
 }
 

@@ -3,6 +3,7 @@
 #define VELLUMARK_SAVEGAMES_SLOT_FOLDERS_H_
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,9 @@ struct SlotCopies {
 // Copies the slots 0 to `max_savegame` of a folder that have a savegame file, each with its note
 // and screen-shot, under the same names into another folder; these stay behind where the savegame
 // itself does not arrive. The sources are never changed, and nothing in the target is deleted.
+// `show`, where given, is told before each slot how far it is.
 SlotCopies CopySlots(FileSystem& files, const std::string& source, const std::string& target,
-                     int max_savegame);
+                     int max_savegame, const std::function<void(int done, int all)>& show = {});
 
 // Deletes every `savegame.*`, `note*.txt` and `shot*.jpg` of a folder. Answers the files that could
 // not be deleted; it goes on with the others.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "archive/catalogue_builder.h"
 #include "savegames/notes.h"
 #include "savegames/savegame_header.h"
@@ -213,9 +215,15 @@ TEST_F(ScanTest, ManyThreadsFindWhatOneFinds) {
       disk.Write("Archive/Slot30/savegame." + std::to_string(slot), "x");
     }
     for (const bool all : {false, most == 15}) {
-      const CatalogueRequest request{settings, "T:\\Game", all};
+      int shown = 0;
+      const auto show = [&, caller = std::this_thread::get_id()](int done, int of) {
+        EXPECT_TRUE(done <= of && std::this_thread::get_id() == caller);
+        ++shown;
+      };
+      const CatalogueRequest request{settings, "T:\\Game", all, show};
       const ScannedCatalogue one = BuildCatalogue(files, text, request);
       const ScannedCatalogue many = BuildCatalogue(drives.files(), text, request);
+      EXPECT_GT(shown, 0) << "how far the threads are";
       EXPECT_GT(one.catalogue.entries.size(), 50U);
       EXPECT_EQ(one.table_full, most > 15);
       EXPECT_EQ(many.table_full, one.table_full);

@@ -1,5 +1,7 @@
 #include "platform/file_system.h"
 
+#include "platform/common/bulk_copy.h"
+
 namespace vellumark {
 
 bool FileSystem::SameContent(const std::string& a, const std::string& b) {
@@ -16,6 +18,16 @@ FileError FileSystem::CopyVerified(const std::string& source, const std::string&
   if (SameContent(source, target)) return FileError::kNone;
   Delete(target);
   return FileError::kInputOutput;
+}
+
+void FileSystem::CopyAllVerified(std::vector<CopyGroup>& groups,
+                                 const std::function<bool(std::size_t)>& begin) {
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    if (!begin(i)) return StopCopying(groups, i);
+    CopyInOrder(groups[i], [this](std::size_t, const CopyJob& job) {
+      return CopyVerified(job.source, job.target);
+    });
+  }
 }
 
 }  // namespace vellumark

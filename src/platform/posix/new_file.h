@@ -9,10 +9,13 @@
 namespace vellumark {
 
 // Makes an empty file under a temporary name where none was, and takes it away again unless Finish
-// succeeds. What the end of the program leaves behind never has the file's own name.
+// succeeds. What the end of the program leaves behind never has the file's own name, unless its
+// folder has a temporary one itself.
 class NewFile {
  public:
   explicit NewFile(std::string host);
+  // Where a file of this host path is made.
+  static std::string MadeAs(const std::string& host);
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
   ~NewFile();

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,6 +16,7 @@
 #include "platform/file_system.h"
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/drive_map.h"
+#include "platform/posix/host_copy.h"
 #include "platform/posix/host_directory.h"
 #include "platform/posix/path_lookup.h"
 #include "platform/text.h"
@@ -54,6 +56,8 @@ class PosixFileSystem final : public FileSystem {
   FileError WriteAt(const std::string& path, std::uint64_t offset, std::string_view bytes) override;
   FileError Copy(const std::string& source, const std::string& target) override;
   FileError CopyVerified(const std::string& source, const std::string& target) override;
+  void CopyAllVerified(std::vector<CopyGroup>& groups,
+                       const std::function<bool(std::size_t)>& begin) override;
   FileError Flush(const std::vector<std::string>& paths) override;
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override;
   FileError Delete(const std::string& path) override;
@@ -81,7 +85,14 @@ class PosixFileSystem final : public FileSystem {
   CheckedPath PathToMake(const std::string& path) const;
 
   FileError DeleteOne(const std::string& path);
-  FileError CopyToNew(const std::string& source, const std::string& target, bool verify);
+  // A file that is there, and a place for its copy.
+  struct CopyPlan {
+    FileError error = FileError::kNone;
+    std::string from;  // host path
+    NamePlace to;
+  };
+  CopyPlan PlanCopy(const std::string& source, const std::string& target);
+  FileError CopyToNew(const std::string& source, const std::string& target, ReadBack read_back);
   PathStatus Status(const std::string& path);
   // Not open when the path names no regular file that can be read.
   Descriptor OpenToRead(const std::string& path);
@@ -95,6 +106,7 @@ class PosixFileSystem final : public FileSystem {
 
   const PathNames names_;
   PathLookup lookup_;
+  CloneSupport clones_;
   std::string working_folder_;  // the process's own, at construction
   WindowsPath current_;
 };

@@ -3,13 +3,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <map>
 #include <set>
 #include <utility>
 
+#include "platform/common/bulk_copy.h"
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/file_error.h"
 #include "platform/posix/free_name_rename.h"
@@ -207,35 +207,56 @@ FileError PosixFileSystem::WriteAt(const std::string& path, std::uint64_t offset
 }
 
 FileError PosixFileSystem::Copy(const std::string& source, const std::string& target) {
-  return CopyToNew(source, target, false);
+  return CopyToNew(source, target, ReadBack::kNo);
 }
 
 FileError PosixFileSystem::CopyVerified(const std::string& source, const std::string& target) {
-  return CopyToNew(source, target, true);
+  return CopyToNew(source, target, ReadBack::kYes);
+}
+
+PosixFileSystem::CopyPlan PosixFileSystem::PlanCopy(const std::string& source,
+                                                    const std::string& target) {
+  CopyPlan plan;
+  const PathStatus found = Status(source);
+  plan.error = found.error;
+  if (found.error != FileError::kNone && !found.dead_link) return plan;
+  plan.error = FileError::kAccessDenied;
+  if (found.dead_link || !S_ISREG(found.status.st_mode)) return plan;
+  plan.from = found.host;
+  plan.to = PlaceToMake(target);
+  plan.error = plan.to.error;
+  return plan;
 }
 
 FileError PosixFileSystem::CopyToNew(const std::string& source, const std::string& target,
-                                     bool verify) {
-  const PathStatus found = Status(source);
-  if (found.error != FileError::kNone && !found.dead_link) return found.error;
-  if (found.dead_link || !S_ISREG(found.status.st_mode)) return FileError::kAccessDenied;
-  const NamePlace place = PlaceToMake(target);
-  if (place.error != FileError::kNone) return place.error;
+                                     ReadBack read_back) {
+  const CopyPlan plan = PlanCopy(source, target);
+  if (plan.error != FileError::kNone) return plan.error;
+  const FileError error = CopyHostFile(plan.from, plan.to.Host(), read_back, clones_);
+  if (error == FileError::kNone) lookup_.Made(plan.to);
+  return error;
+}
 
-  const Descriptor from(open(found.host.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
-  struct stat status = {};
-  if (!from.IsOpen() || fstat(from.number(), &status) != 0) return FileErrorFromNumber(errno);
-
-  NewFile to(place.Host());
-  if (to.error() != 0) return FileErrorFromNumber(to.error());
-  int failure = CopyAll(from.number(), to.descriptor());
-  if (failure == 0 && verify) failure = CompareAll(from.number(), to.descriptor());
-  const std::array<timespec, 2> times = {timespec{0, UTIME_OMIT}, status.st_mtim};
-  // Not every disk takes a time; the copy is whole without it.
-  if (failure == 0) static_cast<void>(futimens(to.descriptor(), times.data()));
-  if (failure == 0) failure = to.Finish();
-  if (failure == 0) lookup_.Made(place);
-  return FileErrorFromNumber(failure);
+void PosixFileSystem::CopyAllVerified(std::vector<CopyGroup>& groups,
+                                      const std::function<bool(std::size_t)>& begin) {
+  CopyOnThreads(*this, groups, begin, [this](const CopyJob& job) -> std::optional<ReadyCopy> {
+    const CopyPlan plan = PlanCopy(job.source, job.target);
+    struct stat folder = {};
+    if (plan.error != FileError::kNone || stat(plan.to.folder.c_str(), &folder) != 0) {
+      return std::nullopt;
+    }
+    // Two files whose temporary names are the same are made one after the other.
+    const std::string host = plan.to.Host();
+    const std::string made = NewFile::MadeAs(host);
+    const std::string name = names_.FromHost(made.substr(made.rfind('/') + 1)).bytes;
+    return ReadyCopy{
+        .key = std::to_string(folder.st_dev) + '/' + std::to_string(folder.st_ino) + '/' +
+               names_.Fold(name),
+        .copy = [this, from = plan.from,
+                 host] { return CopyHostFile(from, host, ReadBack::kYes, clones_); },
+        .made = [this, place = plan.to] { lookup_.Made(place); },
+    };
+  });
 }
 
 FileError PosixFileSystem::Flush(const std::vector<std::string>& paths) {

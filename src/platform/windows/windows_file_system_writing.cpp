@@ -1,10 +1,13 @@
 // What changes the disk.
 #include <windows.h>
 
+#include <algorithm>
 #include <cstddef>
-#include <set>
 #include <vector>
 
+#include "platform/common/bulk_copy.h"
+#include "platform/common/parallel.h"
+#include "platform/common/temporary_prefix.h"
 #include "platform/windows/disk_names.h"
 #include "platform/windows/file_error.h"
 #include "platform/windows/file_handle.h"
@@ -13,6 +16,15 @@
 
 namespace vellumark {
 namespace {
+
+constexpr std::size_t kFlushingThreads = 8;
+
+// The name under which NewFile makes a file of this name, but for a temporary one.
+std::string TemporaryNameOf(const std::string& name) {
+  if (name.starts_with(kTemporaryPrefix)) return name;
+  return std::string(kTemporaryPrefix) +
+         name.substr(std::min(kTemporaryPrefix.size(), name.size()));
+}
 
 std::optional<std::uint64_t> SizeOf(const FileHandle& file) {
   LARGE_INTEGER size = {};
@@ -142,20 +154,45 @@ FileError WindowsFileSystem::Copy(const std::string& source, const std::string& 
   return to.Finish();
 }
 
+// Copying changes nothing in this object, so that threads may do it.
+void WindowsFileSystem::CopyAllVerified(std::vector<CopyGroup>& groups,
+                                        const std::function<bool(std::size_t)>& begin) {
+  CopyOnThreads(*this, groups, begin, [this](const CopyJob& job) -> std::optional<ReadyCopy> {
+    const CheckedPath to = PathToMake(job.target);
+    if (to.error != FileError::kNone || to.path.names.empty()) return std::nullopt;
+    if (Attributes(job.source).error != FileError::kNone) return std::nullopt;
+    if (AttributesOf(to.wide).error != FileError::kNotFound) return std::nullopt;
+    WindowsPath folder = to.path;
+    folder.names.pop_back();
+    const auto identity = Identity(folder.Joined());
+    if (!identity) return std::nullopt;
+    // Two files whose temporary names are the same are made one after the other.
+    const std::string name = TemporaryNameOf(to.path.names.back());
+    return ReadyCopy{
+        .key = std::to_string(identity->device) + '/' + std::to_string(identity->index) + '/' +
+               names_.Fold(name),
+        .copy = [this, job] { return CopyVerified(job.source, job.target); },
+        .made = [] {},
+    };
+  });
+}
+
 // The system keeps a name safe together with the file's contents; a folder has nothing to flush.
+// Each file waits for the disk, which serves many at once faster.
 FileError WindowsFileSystem::Flush(const std::vector<std::string>& paths) {
-  FileError first_error = FileError::kNone;
-  for (const std::string& path : paths) {
-    const CheckedPath checked = PathToLookFor(path);
-    FileError error = checked.error;
-    if (error == FileError::kNone) {
-      const DiskAttributes found = AttributesOf(checked.wide);
-      error = found.error;
-      if (error == FileError::kNone && !found.attributes.folder) error = FlushFile(checked.wide);
-    }
-    if (first_error == FileError::kNone) first_error = error;
-  }
-  return first_error;
+  std::vector<FileError> errors(paths.size());
+  ForEachIndex(paths.size(), kFlushingThreads, [&](std::size_t i) {
+    const CheckedPath checked = PathToLookFor(paths[i]);
+    errors[i] = checked.error;
+    if (checked.error != FileError::kNone) return;
+    const DiskAttributes found = AttributesOf(checked.wide);
+    errors[i] = found.error;
+    const bool file = found.error == FileError::kNone && !found.attributes.folder;
+    if (file) errors[i] = FlushFile(checked.wide);
+  });
+  const auto failed =
+      std::ranges::find_if(errors, [](FileError error) { return error != FileError::kNone; });
+  return failed == errors.end() ? FileError::kNone : *failed;
 }
 
 FileError WindowsFileSystem::Rename(const std::string& from, const std::string& to,
