@@ -1,7 +1,8 @@
 // Makes the archive that the benchmarks read: 10,000 savegames of 7.5 KB in 625 sub-folders, a
 // note with each, a screen-shot of 30 KB with half of them. The same bytes every time. With `long`,
-// one note in ten goes on to 64 KB, and one to 10 MB.
-// usage: make_archive_tree FOLDER [long]
+// one note in ten goes on to 64 KB, and one to 10 MB. With `pictures` it is one for looking at: a
+// screen-shot with each, and levels of 40 savegames.
+// usage: make_archive_tree FOLDER [long|pictures]
 #include <QBuffer>
 #include <QImage>
 #include <cstdint>
@@ -46,8 +47,11 @@ void Write(const fs::path& path, std::string_view bytes) {
   Require(file.good(), "Cannot write " + path.string() + ".");
 }
 
-std::string Savegame(Numbers& numbers, int index) {
-  std::string bytes(kLevels[numbers.Below(std::size(kLevels))]);
+std::string Savegame(Numbers& numbers, int index, bool in_order) {
+  constexpr int kSavegamesOfLevel = 40;
+  const std::size_t level = in_order ? static_cast<std::size_t>(index / kSavegamesOfLevel)
+                                     : numbers.Below(std::size(kLevels));
+  std::string bytes(kLevels[level % std::size(kLevels)]);
   bytes += '\0';
   while (bytes.size() < kCounterOffset) bytes += static_cast<char>(numbers.Below(256));
   bytes += static_cast<char>(index & 0xFF);
@@ -99,10 +103,12 @@ std::string Shot() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  Require(argc == 2 || (argc == 3 && std::string_view(argv[2]) == "long"),
-          "usage: make_archive_tree FOLDER [long]");
+  const std::string_view kind = argc == 3 ? argv[2] : "";
+  Require(argc == 2 || kind == "long" || kind == "pictures",
+          "usage: make_archive_tree FOLDER [long|pictures]");
+  const bool pictures = kind == "pictures";
   const fs::path archive = argv[1];
-  const bool long_notes = argc == 3;
+  const bool long_notes = kind == "long";
   const std::string shot = Shot();
   Numbers numbers;
   int index = 0;
@@ -111,10 +117,10 @@ int main(int argc, char** argv) {
     fs::create_directories(folder);
     for (int slot = 0; slot < kSlotsInFolder; ++slot) {
       const std::string number = std::to_string(slot);
-      Write(folder / ("savegame." + number), Savegame(numbers, ++index));
+      Write(folder / ("savegame." + number), Savegame(numbers, ++index, pictures));
       Write(folder / ("note" + number + ".txt"),
             Note(numbers, long_notes ? LongNoteSize(index) : kNoteSize));
-      if (slot % 2 == 0) Write(folder / ("shot" + number + ".jpg"), shot);
+      if (pictures || slot % 2 == 0) Write(folder / ("shot" + number + ".jpg"), shot);
     }
   }
 }

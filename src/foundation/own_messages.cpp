@@ -177,6 +177,8 @@ constexpr TableMessage kOwnMessages[] = {
     {kPictureFaultNone, "it is no picture"},
     {kPictureFaultDamaged, "its file is damaged"},
     {kPictureFaultTooLarge, "it is larger than 32,767 pixels a side or 1 GB in memory"},
+    {kPictureFaultLargeForSmall, "it is too large to be shown among the others"},
+    {kPictureFaultNotCredible, "its file is too short for the size that it claims to have"},
     {kPicturesFilter, "|Pictures|~1"},
     {kShotFolderKept,
      "The folder for screen-shots in the preferences stays as it was. The screen-shot itself is "
@@ -206,6 +208,17 @@ constexpr TableMessage kOwnMessages[] = {
     {kViewMenu, "View"},
     {kViewList, "List"},
     {kViewPictures, "Pictures"},
+    {kViewLarger, "Larger pictures"},
+    {kViewSmaller, "Smaller pictures"},
+    {kViewGoToLevel, "Go to level"},
+    {kLevelInMenu, " (~1)"},
+    {kLevelsNone, "No savegames"},
+    {kLevelNone, "No level name"},
+    {kSpokenTile, "~1, "},
+    {kSpokenInGame, ", in the Tomb Raider folder"},
+    {kSpokenShot, ", with screen-shot"},
+    {kSpokenNoShot, ", no screen-shot"},
+    {kSpokenNote, ", note: "},
 
     {kPageNoArchive,
      "No archive is open.\r\n\r\nAn archive keeps your savegames in numbered folders, with notes "
@@ -383,6 +396,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kRescuedNotRead, "Warning: not everything that is set aside could be read:"},
 
     {kNameList, "List of savegames"},
+    {kNamePictures, "Pictures of savegames"},
     {kNameNote, "Note of the selected savegame"},
     {kNamePicture, "Screen-shot of the selected savegame"},
     {kNamePosition, "Position in the search result"},

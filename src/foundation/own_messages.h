@@ -99,19 +99,21 @@ enum OwnMessage : int {
   kStartItAllTheSame,    // question
 
   // Capture
-  kSlotEmpty,             // no values
-  kSlotsChanged,          // no values
-  kLinkedInGameOnly,      // ~1 slot
-  kClipboardUnreadable,   // no values
-  kPictureNotShown,       // ~1 reason
-  kPictureFaultNone,      // reason
-  kPictureFaultDamaged,   // reason
-  kPictureFaultTooLarge,  // reason
-  kPicturesFilter,        // ~1 patterns
-  kShotFolderKept,        // no values
-  kTypedNoteKept,         // ~1 folder
-  kTypedNoteNotKept,      // ~1 folder, ~2 reason; followed by the note
-  kNameCapturedPicture,   // for assistive technology
+  kSlotEmpty,                  // no values
+  kSlotsChanged,               // no values
+  kLinkedInGameOnly,           // ~1 slot
+  kClipboardUnreadable,        // no values
+  kPictureNotShown,            // ~1 reason
+  kPictureFaultNone,           // reason
+  kPictureFaultDamaged,        // reason
+  kPictureFaultTooLarge,       // reason
+  kPictureFaultLargeForSmall,  // reason
+  kPictureFaultNotCredible,    // reason
+  kPicturesFilter,             // ~1 patterns
+  kShotFolderKept,             // no values
+  kTypedNoteKept,              // ~1 folder
+  kTypedNoteNotKept,           // ~1 folder, ~2 reason; followed by the note
+  kNameCapturedPicture,        // for assistive technology
 
   // Main window
   kNoteGoesOn,       // ~1 characters shown, ~2 characters in all
@@ -126,6 +128,17 @@ enum OwnMessage : int {
   kViewMenu,
   kViewList,
   kViewPictures,
+  kViewLarger,
+  kViewSmaller,
+  kViewGoToLevel,
+  kLevelInMenu,   // follows a level's name; ~1 number of savegames
+  kLevelsNone,    // in the place of the levels
+  kLevelNone,     // in the place of a level's name
+  kSpokenTile,    // ~1 counter; followed by the level
+  kSpokenInGame,  // goes on
+  kSpokenShot,    // goes on
+  kSpokenNoShot,  // goes on
+  kSpokenNote,    // followed by the note
 
   // What the main window says while there is no list
   kPageNoArchive,
@@ -231,6 +244,7 @@ enum OwnMessage : int {
 
   // Names of the controls that have no caption, for assistive technology and as tool tips
   kNameList,
+  kNamePictures,
   kNameNote,
   kNamePicture,
   kNamePosition,

@@ -170,6 +170,10 @@ class FileSystem {
   // for one thread at a time all the same.
   virtual bool WorksOnThreads() const { return false; }
 
+  // The same disk, for one other thread, which may work while this one does. Not beyond the life of
+  // the system's Text. Null where all work has to come here: a test's disk sees every call then.
+  virtual std::unique_ptr<FileSystem> ForOtherThread() const { return nullptr; }
+
   // The first `limit` bytes of a file.
   virtual ReadResult Read(const std::string& path, std::size_t limit) = 0;
 

@@ -41,7 +41,7 @@ std::string FormatEntryLine(const SavegameEntry& entry, bool has_shot) {
   std::string line;
   line.resize(kNoteColumn, ' ');
   if (entry.FolderNumber == 0) line[0] = game_mark;
-  if (has_shot) line[1] = shot_mark;
+  if (has_shot) line[kShotColumn] = shot_mark;
 
   char digits[8];
   const auto length = static_cast<std::size_t>(

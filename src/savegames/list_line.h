@@ -14,6 +14,9 @@ struct Program;
 constexpr std::size_t kLevelColumn = 8;
 constexpr std::size_t kNoteColumn = 37;
 
+// What a line has in this column when the savegame has a screen-shot.
+constexpr std::size_t kShotColumn = 1;
+
 // A line has room for no more of a note: more could not be seen, and would be carried and measured
 // all the same.
 constexpr std::size_t kNoteInLine = 1000;

@@ -24,6 +24,7 @@ constexpr AccessKey kPrincipaleKeys[] = {
     {"mnu_Rescued", 'S'},      {"mnu_View", 'V'},        {"mnu_ViewList", 'L'},
     {"mnu_ViewPictures", 'P'}, {"Pul_PageNew", 'N'},     {"Pul_PageOpen", 'O'},
     {"Pul_PageHelp", 'W'},     {"Pul_PageAgain", 'G'},   {"mnu_About", 'A'},
+    {"mnu_ViewLarger", 'A'},   {"mnu_ViewSmaller", 'S'}, {"mnu_ViewGoToLevel", 'G'},
 };
 
 constexpr AccessKey kSetNewArcKeys[] = {

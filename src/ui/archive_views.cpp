@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/qt_text.h"
+#include "program.h"
+#include "savegames/tile.h"
 #include "ui/controls.h"
 #include "ui/pictures_view.h"
 #include "ui/savegame_list.h"
@@ -13,11 +16,11 @@
 
 namespace vellumark {
 
-ArchiveViews::ArchiveViews(QWidget* parent)
+ArchiveViews::ArchiveViews(FileSystem& files, QWidget* parent)
     : QStackedWidget(parent),
       lines_(new SavegameListModel(this)),
       list_(Named(new SavegameList(*lines_, this), "List1")),
-      pictures_(Named(new PicturesView(this), "Pictures1")) {
+      pictures_(Named(new PicturesView(files, *lines_, this), "Pictures1")) {
   pictures_->setModel(lines_);
   pictures_->setSelectionModel(list_->selectionModel());
   connect(&Selection(), &QItemSelectionModel::selectionChanged, this, [this] {
@@ -37,6 +40,11 @@ ArchiveViews::ArchiveViews(QWidget* parent)
   setFocusProxy(list_);
 }
 
+void ArchiveViews::Attach(const Program& program) {
+  program_ = &program;
+  pictures_->Attach(program);
+}
+
 QItemSelectionModel& ArchiveViews::Selection() const { return *list_->selectionModel(); }
 
 QAbstractItemView& ArchiveViews::ViewOf(ArchiveView view) const {
@@ -47,6 +55,15 @@ QAbstractItemView& ArchiveViews::ViewOf(ArchiveView view) const {
 void ArchiveViews::Choose(ArchiveView view) {
   if (chosen_ == view) return;
   chosen_ = view;
+  // The lines of the list are read as they stand there.
+  if (view == ArchiveView::kPictures) {
+    lines_->SetSpoken([this](int index) {
+      const SavegameEntry& entry = program_->catalogue.entries[static_cast<std::size_t>(index)];
+      return ToDisplayText(program_->text, SpokenTile(entry, lines_->HasShot(index)));
+    });
+  } else {
+    lines_->SetSpoken({});
+  }
   if (instead_ == nullptr) ShowPage(&ViewOf(view));
   ViewOf(view).scrollTo(ViewOf(view).currentIndex());
   emit ViewChosen(view);
@@ -92,6 +109,10 @@ void ArchiveViews::SelectLine(int index) {
   const QModelIndex line = lines_->index(index);
   Selection().setCurrentIndex(line, QItemSelectionModel::ClearAndSelect);
   ViewOf(chosen_).scrollTo(line);
+}
+
+void ArchiveViews::ScrollToTop(int index) {
+  ViewOf(chosen_).scrollTo(lines_->index(index), QAbstractItemView::PositionAtTop);
 }
 
 bool ArchiveViews::eventFilter(QObject* watched, QEvent* event) {

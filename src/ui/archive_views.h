@@ -12,6 +12,8 @@ class QItemSelectionModel;
 
 namespace vellumark {
 
+struct Program;
+class FileSystem;
 class PicturesView;
 class SavegameList;
 class SavegameListModel;
@@ -22,7 +24,10 @@ class ArchiveViews final : public QStackedWidget {
   Q_OBJECT
 
  public:
-  explicit ArchiveViews(QWidget* parent);
+  ArchiveViews(FileSystem& files, QWidget* parent);
+
+  // The program whose catalogue is shown.
+  void Attach(const Program& program);
 
   SavegameList& List() { return *list_; }
   PicturesView& Pictures() { return *pictures_; }
@@ -43,6 +48,8 @@ class ArchiveViews final : public QStackedWidget {
   std::vector<int> SelectedLines() const;
   // Leaves exactly this line selected, current and in sight.
   void SelectLine(int index);
+  // Shows this line at the top, with the heading of its level where there is one.
+  void ScrollToTop(int index);
 
  signals:
   // The user has changed the selection, or clicked a savegame again.
@@ -56,6 +63,7 @@ class ArchiveViews final : public QStackedWidget {
   QAbstractItemView& ViewOf(ArchiveView view) const;
   void ShowPage(QWidget* page);
 
+  const Program* program_ = nullptr;
   SavegameListModel* lines_;
   SavegameList* list_;
   PicturesView* pictures_;

@@ -14,6 +14,7 @@
 #include "platform/file_system.h"
 #include "platform/qt/beside.h"
 #include "platform/qt/picture_reading.h"
+#include "ui/picture_faults.h"
 
 namespace vellumark {
 namespace {
@@ -25,17 +26,6 @@ constexpr auto kLookEvery = std::chrono::milliseconds(50);
 
 QString NotShown(const std::string& reason) {
   return QString::fromStdString(LoadMessage(kPictureNotShown, {reason}));
-}
-
-std::string WordsFor(PictureFault fault) {
-  switch (fault) {
-    case PictureFault::kTooLarge:
-      return LoadMessage(kPictureFaultTooLarge);
-    case PictureFault::kDamaged:
-      return LoadMessage(kPictureFaultDamaged);
-    default:
-      return LoadMessage(kPictureFaultNone);
-  }
 }
 
 QAccessibleInterface* PictureForAssistants(const QString& /*class_name*/, QObject* object) {

@@ -105,6 +105,8 @@ Principale::Principale(FileSystem& files, const Text& text) : files_(files), tex
 
 void Principale::Attach(Program& program) {
   program_ = &program;
+  views_->Attach(program);
+  view_menu_->Attach(program);
   connect(views_, &ArchiveViews::SelectionTouched, this, [this] { RefreshDetails(*program_); });
   for (const Command& command : Commands()) Connect(command);
   connect(&timer_, &QTimer::timeout, this, [this] {
@@ -144,10 +146,10 @@ void Principale::BuildCentre() {
   auto* column = new QVBoxLayout(centre);
   auto* splitter = new QSplitter(Qt::Horizontal, centre);
   splitter->setChildrenCollapsible(false);
-  views_ = new ArchiveViews(splitter);
+  views_ = new ArchiveViews(files_, splitter);
   views_->setMinimumWidth(160);
-  menuBar()->insertMenu(findChild<QMenu*>(QStringLiteral("mnu_Tools"))->menuAction(),
-                        new ViewMenu(*views_, this));
+  view_menu_ = new ViewMenu(*views_, this);
+  menuBar()->insertMenu(findChild<QMenu*>(QStringLiteral("mnu_Tools"))->menuAction(), view_menu_);
   BuildContextMenu();
   BuildPage();
   splitter->addWidget(views_);
@@ -243,7 +245,7 @@ void Principale::SetTabOrder() {
 void Principale::NameControlsWithoutCaption() {
   const auto message = [this](int number) { return ToQString(text_, LoadMessage(number)); };
   views_->List().setAccessibleName(message(kNameList));
-  views_->Pictures().setAccessibleName(message(kNameList));
+  views_->Pictures().setAccessibleName(message(kNamePictures));
   const auto with_mark = [this](int number) {
     return ToDisplayLine(text_, LoadMessage(number, {std::string(1, kStoredLineBreak)}), 0);
   };

@@ -29,6 +29,7 @@ class FirstPageView;
 class ScreenShotViewer;
 class ShotBox;
 class Text;
+class ViewMenu;
 
 class Principale final : public QMainWindow, public MainWindow, public Windows {
   Q_OBJECT
@@ -91,6 +92,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
 
   ArchiveViews* views_ = nullptr;
   FirstPageView* page_ = nullptr;
+  ViewMenu* view_menu_ = nullptr;
   ShotBox* picture_ = nullptr;
   QPlainTextEdit* note_ = nullptr;
   QLineEdit* path_ = nullptr;

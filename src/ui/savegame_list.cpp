@@ -1,14 +1,9 @@
 #include "ui/savegame_list.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QItemSelectionModel>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
-#include <iterator>
 
 #include "ui/fonts.h"
 #include "ui/list_heading.h"
@@ -85,38 +80,18 @@ void SavegameList::resizeEvent(QResizeEvent* event) {
   PlaceHeading();
 }
 
-// A blank belongs to a level that is being typed; otherwise it is the one that selects a line
-// together with Ctrl.
 void SavegameList::keyboardSearch(const QString& search) {
-  const bool typing = typed_.isValid() && !typed_.hasExpired(QApplication::keyboardInputInterval());
-  if (search == QLatin1String(" ") && !typing) return;
-  typed_.start();
-  QListView::keyboardSearch(search);
+  if (typing_.Takes(search)) QListView::keyboardSearch(search);
 }
 
-// By key the menu opens at the current line, of which only the beginning need be in sight.
-void SavegameList::contextMenuEvent(QContextMenuEvent* event) {
-  QPoint place = event->globalPos();
-  if (event->reason() == QContextMenuEvent::Keyboard) {
-    scrollTo(currentIndex());
-    const QPoint below = visualRect(currentIndex()).bottomLeft();
-    place = viewport()->mapToGlobal(QPoint(std::max(0, below.x()), below.y()));
-  }
-  QMenu::exec(actions(), place, nullptr, this);
-}
+void SavegameList::contextMenuEvent(QContextMenuEvent* event) { ShowContextMenu(*this, *event); }
 
-// At the first or last line, the keys that lead there have nowhere to go, but select it alone all
-// the same.
 void SavegameList::keyPressEvent(QKeyEvent* event) {
-  constexpr int kMoves[] = {Qt::Key_Up,   Qt::Key_PageUp,   Qt::Key_Home,
-                            Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End};
   const QModelIndex before = currentIndex();
   QListView::keyPressEvent(event);
-  const bool moves = std::ranges::find(kMoves, event->key()) != std::end(kMoves);
-  const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-  if (moves && plain && before.isValid() && currentIndex() == before) {
-    selectionModel()->select(before, QItemSelectionModel::ClearAndSelect);
-  }
+  // To the side, keys scroll the list.
+  const bool to_the_side = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+  if (!to_the_side) SelectAloneAtTheEnd(*this, before, *event);
 }
 
 }  // namespace vellumark

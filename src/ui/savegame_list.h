@@ -2,8 +2,9 @@
 #ifndef VELLUMARK_UI_SAVEGAME_LIST_H_
 #define VELLUMARK_UI_SAVEGAME_LIST_H_
 
-#include <QElapsedTimer>
 #include <QListView>
+
+#include "ui/view_manners.h"
 
 namespace vellumark {
 
@@ -32,7 +33,7 @@ class SavegameList final : public QListView {
 
   SavegameListModel& lines_;
   ListHeading* heading_;
-  QElapsedTimer typed_;  // since the last letter of a level that is being typed
+  LevelTyping typing_;
 };
 
 }  // namespace vellumark

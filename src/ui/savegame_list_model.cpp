@@ -27,10 +27,14 @@ int SavegameListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant SavegameListModel::data(const QModelIndex& index, int role) const {
-  if (role == Qt::DisplayRole && index.isValid() && index.row() < lines_.size()) {
-    return lines_[index.row()];
-  }
+  if (!index.isValid() || index.row() >= lines_.size()) return {};
+  if (role == Qt::DisplayRole) return lines_[index.row()];
+  if (role == Qt::AccessibleTextRole && spoken_) return spoken_(index.row());
   return {};
+}
+
+bool SavegameListModel::HasShot(int index) const {
+  return lines_[index].size() > qsizetype{kShotColumn} && lines_[index][kShotColumn] != u' ';
 }
 
 QModelIndexList SavegameListModel::match(const QModelIndex& start, int /*role*/,

@@ -4,6 +4,8 @@
 
 #include <QAbstractListModel>
 #include <QStringList>
+#include <functional>
+#include <utility>
 
 namespace vellumark {
 
@@ -15,6 +17,12 @@ class SavegameListModel final : public QAbstractListModel {
 
   void SetLines(QStringList lines);
   void ReplaceLine(int index, const QString& line);
+
+  // What a screen reader says of a savegame; none: its line.
+  void SetSpoken(std::function<QString(int)> spoken) { spoken_ = std::move(spoken); }
+
+  // Whether a savegame's line says that it has a screen-shot.
+  bool HasShot(int index) const;
 
   // The length of the longest line, in characters.
   qsizetype LongestLine() const { return longest_; }
@@ -29,6 +37,7 @@ class SavegameListModel final : public QAbstractListModel {
  private:
   QStringList lines_;
   qsizetype longest_ = 0;
+  std::function<QString(int)> spoken_;
 };
 
 }  // namespace vellumark

@@ -1,4 +1,4 @@
-// The menu that chooses how the main window shows the archive.
+// The menu that chooses how the main window shows the archive, and where in it.
 #ifndef VELLUMARK_UI_VIEW_MENU_H_
 #define VELLUMARK_UI_VIEW_MENU_H_
 
@@ -6,6 +6,7 @@
 
 namespace vellumark {
 
+struct Program;
 class ArchiveViews;
 
 class ViewMenu final : public QMenu {
@@ -13,6 +14,19 @@ class ViewMenu final : public QMenu {
 
  public:
   ViewMenu(ArchiveViews& views, QWidget* parent);
+
+  // The program in whose archive the levels are.
+  void Attach(Program& program) { program_ = &program; }
+
+ private:
+  void AddViews();
+  void AddSizes();
+  void ListLevels();
+  void GoTo(int index);
+
+  ArchiveViews& views_;
+  Program* program_ = nullptr;
+  QMenu* levels_;
 };
 
 }  // namespace vellumark

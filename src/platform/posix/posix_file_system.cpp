@@ -39,10 +39,17 @@ class HeldLock final : public FolderLock {
 }  // namespace
 
 PosixFileSystem::PosixFileSystem(const Text& text, DriveMap drives, const std::string& home)
-    : names_(text), lookup_(std::move(drives), names_), working_folder_(WorkingFolder()) {
+    : text_(text),
+      names_(text),
+      lookup_(std::move(drives), names_),
+      working_folder_(WorkingFolder()) {
   std::optional<WindowsPath> start = FromHost(working_folder_);
   if (!start && !home.empty()) start = FromHost(home);
   if (start) current_ = std::move(*start);
+}
+
+std::unique_ptr<FileSystem> PosixFileSystem::ForOtherThread() const {
+  return std::make_unique<PosixFileSystem>(text_, lookup_.drives());
 }
 
 PosixFileSystem::CheckedPath PosixFileSystem::PathToLookFor(const std::string& path) const {

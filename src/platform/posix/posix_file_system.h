@@ -44,6 +44,7 @@ class PosixFileSystem final : public FileSystem {
   Listing List(const std::string& pattern) override;
   std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) override;
   bool WorksOnThreads() const override { return true; }
+  std::unique_ptr<FileSystem> ForOtherThread() const override;
   ReadResult Read(const std::string& path, std::size_t limit) override;
   bool SameContent(const std::string& a, const std::string& b) override;
   std::optional<FileIdentity> Identity(const std::string& path) override;
@@ -104,6 +105,7 @@ class PosixFileSystem final : public FileSystem {
 
   std::optional<WindowsPath> FromHost(std::string_view host_path) const;
 
+  const Text& text_;
   const PathNames names_;
   PathLookup lookup_;
   CloneSupport clones_;

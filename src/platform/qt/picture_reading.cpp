@@ -10,11 +10,15 @@ namespace {
 constexpr int kLongestSide = 32767;
 constexpr int kMostMegabytes = 1024;
 
-bool IsTooLarge(QSize size) {
-  constexpr std::int64_t kBytesInPixel = 4;
-  constexpr std::int64_t kMegabyte = 1 << 20;
-  return size.width() > kLongestSide || size.height() > kLongestSide ||
-         kBytesInPixel * size.width() * size.height() > kMostMegabytes * kMegabyte;
+constexpr std::int64_t kBytesInPixel = 4;
+constexpr std::int64_t kMegabyte = 1 << 20;
+
+std::int64_t Pixels(QSize size) { return std::int64_t{size.width()} * size.height(); }
+
+PictureFault FaultOfSize(QSize size) {
+  const bool too_large = size.width() > kLongestSide || size.height() > kLongestSide ||
+                         kBytesInPixel * Pixels(size) > kMostMegabytes * kMegabyte;
+  return too_large ? PictureFault::kTooLarge : PictureFault::kNone;
 }
 
 PictureFault FaultOf(QImageReader::ImageReaderError error) {
@@ -29,9 +33,9 @@ QImage OnBlack(const QImage& image) {
   return opaque;
 }
 
-}  // namespace
-
-DecodedPicture DecodePicture(std::string_view bytes, QSize most) {
+// `check` tells by the size that the file claims whether to decode it.
+template <typename Check>
+DecodedPicture Decode(std::string_view bytes, QSize most, const Check& check) {
   [[maybe_unused]] static const bool limited = [] {
     QImageReader::setAllocationLimit(kMostMegabytes);
     return true;
@@ -41,13 +45,41 @@ DecodedPicture DecodePicture(std::string_view bytes, QSize most) {
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer);
   const QSize size = reader.size();
-  if (size.isValid() && IsTooLarge(size)) return {{}, PictureFault::kTooLarge};
+  if (size.isValid()) {
+    const PictureFault fault = check(size);
+    if (fault != PictureFault::kNone) return {{}, fault};
+  }
   const bool too_wide = !most.isEmpty() && size.isValid() && size.boundedTo(most) != size;
   if (too_wide) reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
 
   QImage image = reader.read();
   if (image.isNull()) return {{}, FaultOf(reader.error())};
   return {std::move(image)};
+}
+
+}  // namespace
+
+DecodedPicture DecodePicture(std::string_view bytes, QSize most) {
+  return Decode(bytes, most, FaultOfSize);
+}
+
+DecodedPicture DecodeSmallPicture(std::string_view bytes, QSize most) {
+  const auto fault_of = [&bytes](QSize size) {
+    constexpr std::int64_t kMostSmallMegabytes = 128;
+    constexpr std::int64_t kAlwaysTaken = 1 << 20;
+    // A picture of a single colour: no format that is common for screen-shots says more with a
+    // byte.
+    constexpr std::int64_t kMostPixelsInByte = 1024;
+    const std::int64_t pixels = Pixels(size);
+    if (kBytesInPixel * pixels > kMostSmallMegabytes * kMegabyte) {
+      return PictureFault::kTooLargeForSmall;
+    }
+    if (pixels > kAlwaysTaken && pixels / kMostPixelsInByte > std::int64_t(bytes.size())) {
+      return PictureFault::kNotCredible;
+    }
+    return FaultOfSize(size);
+  };
+  return Decode(bytes, most, fault_of);
 }
 
 std::optional<std::string> EncodeJpeg(const QImage& image) {

@@ -19,7 +19,9 @@ enum class PictureFault {
   kNone,
   kNotAPicture,
   kDamaged,
-  kTooLarge,  // more than 32,767 pixels a side or 1 GiB decoded
+  kTooLarge,          // more than 32,767 pixels a side or 1 GiB decoded
+  kTooLargeForSmall,  // more than a small picture is made of
+  kNotCredible,       // a size that the file has not the bytes for
 };
 
 struct DecodedPicture {
@@ -30,6 +32,10 @@ struct DecodedPicture {
 // Decodes the bytes of a picture file. One that is larger than `most` is scaled down to fit, while
 // it is decoded where its format can; an empty `most` takes it as it is.
 DecodedPicture DecodePicture(std::string_view bytes, QSize most = {});
+
+// The same for a small picture, one of many that are decoded at once: refuses what takes more than
+// 128 MiB decoded, and a size of more than a megapixel that the file has not the bytes for.
+DecodedPicture DecodeSmallPicture(std::string_view bytes, QSize most);
 
 // The bytes of a JPEG file; nothing when the picture is null. What is transparent becomes black.
 std::optional<std::string> EncodeJpeg(const QImage& image);

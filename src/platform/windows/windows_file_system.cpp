@@ -57,7 +57,7 @@ class HeldLock final : public FolderLock {
 
 }  // namespace
 
-WindowsFileSystem::WindowsFileSystem(const Text& text) : names_(text) {
+WindowsFileSystem::WindowsFileSystem(const Text& text) : text_(text), names_(text) {
   // A drive without a medium is an answer, not a question of the system to the user.
   SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 

@@ -38,6 +38,9 @@ class WindowsFileSystem final : public FileSystem {
   Listing List(const std::string& pattern) override;
   std::unique_ptr<FolderReader> OpenFolder(const std::string& folder) override;
   bool WorksOnThreads() const override { return true; }
+  std::unique_ptr<FileSystem> ForOtherThread() const override {
+    return std::make_unique<WindowsFileSystem>(text_);
+  }
   ReadResult Read(const std::string& path, std::size_t limit) override;
   std::optional<std::uint64_t> FreeRoom(const std::string& folder) override;
   bool MayMakeFilesIn(const std::string& folder) override;
@@ -77,6 +80,7 @@ class WindowsFileSystem final : public FileSystem {
   // kAccessDenied for the root of a drive.
   CheckedPath PathToChange(const std::string& path) const;
 
+  const Text& text_;
   const PathNames names_;
   WindowsPath current_;
 };
