@@ -92,6 +92,17 @@ constexpr Caption kDialogSetNewArc[] = {
 
 constexpr Caption kDialogScreenShot[] = {
     {"", 224, 0},
+    {"Pul_Precedente", kViewerPrevious, kViewerPrevious},
+    {"Pul_Seguente", kViewerNext, kViewerNext},
+    {"mnu_Previous", kViewerPrevious, 0},
+    {"mnu_Next", kViewerNext, 0},
+    {"mnu_ZoomIn", kViewerZoomIn, 0},
+    {"mnu_ZoomOut", kViewerZoomOut, 0},
+    {"mnu_Fit", kViewerFit, 0},
+    {"mnu_EveryPixel", kViewerEveryPixel, 0},
+    {"mnu_WholeScreen", kViewerFullScreen, 0},
+    {"mnu_Line", kViewerLine, 0},
+    {"mnu_Close", kViewerClose, 0},
 };
 
 constexpr Caption kDialogRescued[] = {
@@ -117,6 +128,7 @@ constexpr Caption kPrincipale[] = {
     {"mnu_File", 236, 0},
     {"mnu_New", 237, 0},
     {"mnu_Load", 238, 0},
+    {"mnu_Recent", kRecentCommand, 0},
     {"mnu_Save", 239, 0},
     {"mnu_SaveAs", 240, 0},
     {"mnu_Exit", 241, 0},
@@ -134,6 +146,8 @@ constexpr Caption kPrincipale[] = {
     {"mnu_ViewLarger", kViewLarger, 0},
     {"mnu_ViewSmaller", kViewSmaller, 0},
     {"mnu_ViewGoToLevel", kViewGoToLevel, 0},
+    {"mnu_ShowInFolder", kShowInFolderCommand, 0},
+    {"mnu_CopyPath", kCopyPathCommand, 0},
     {"mnu_Tools", 250, 0},
     {"mnu_Reorder", 251, 0},
     {"mnu_Scansione", 252, 0},

@@ -251,6 +251,26 @@ constexpr TableMessage kOwnMessages[] = {
     {kPageLookAgain, "Look again"},
     {kOtherGameFolder, "Another folder ..."},
 
+    {kRecentCommand, "Open recent"},
+    {kShowInFolderCommand, "Show in file manager"},
+    {kCopyPathCommand, "Copy path"},
+    {kSelectForPath, "You must select the savegame first"},
+    {kNotShownInFolder,
+     "The file manager could not be opened in the folder ~1. Does the folder still exist?"},
+    {kReplaceShot,
+     "The savegame ~1 has a linked screen-shot already. Do you want to put the picture ~2 in its "
+     "place?"},
+
+    {kViewerPrevious, "Previous screen-shot"},
+    {kViewerNext, "Next screen-shot"},
+    {kViewerZoomIn, "Zoom in"},
+    {kViewerZoomOut, "Zoom out"},
+    {kViewerFit, "Fit into the window"},
+    {kViewerEveryPixel, "Every pixel"},
+    {kViewerFullScreen, "Whole screen"},
+    {kViewerLine, "Counter, level and note"},
+    {kViewerClose, "Close"},
+
     {kCounterOutOfRange, "The internal savegame counter must be a number from -32768 to 32767"},
     {kNoteCharacters,
      "A note cannot hold these characters: ~1\r\nThe first of them is marked. Nothing has been "

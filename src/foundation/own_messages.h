@@ -158,6 +158,25 @@ enum OwnMessage : int {
   kPageLookAgain,
   kOtherGameFolder,  // of a choice of folders
 
+  // The main window's commands
+  kRecentCommand,
+  kShowInFolderCommand,
+  kCopyPathCommand,
+  kSelectForPath,     // no values
+  kNotShownInFolder,  // ~1 folder
+  kReplaceShot,       // ~1 savegame, ~2 picture; question
+
+  // Viewer
+  kViewerPrevious,
+  kViewerNext,
+  kViewerZoomIn,
+  kViewerZoomOut,
+  kViewerFit,
+  kViewerEveryPixel,
+  kViewerFullScreen,
+  kViewerLine,
+  kViewerClose,
+
   // Savegame properties
   kCounterOutOfRange,     // no values
   kNoteCharacters,        // ~1 characters

@@ -1,4 +1,4 @@
-// The picture on the clipboard.
+// The clipboard: its picture, and a text of ours.
 #ifndef VELLUMARK_PLATFORM_CLIPBOARD_H_
 #define VELLUMARK_PLATFORM_CLIPBOARD_H_
 
@@ -39,6 +39,9 @@ class Clipboard {
 
   // Empties the clipboard, whatever it holds.
   virtual void Empty() = 0;
+
+  // Puts a text (UTF-8) in the place of whatever it holds.
+  virtual void PutText(const std::string& text) = 0;
 };
 
 }  // namespace vellumark

@@ -30,6 +30,7 @@ void RefreshDetails(Program& program) {
     const auto index = static_cast<std::size_t>(program.selection.indices.front());
     const SavegameEntry& entry = program.catalogue.entries[index];
     window.SetField(Field::kPathSavegame, entry.SavegamePath);
+    program.details.shown = {entry.SavegamePath, program.selection.indices.front()};
     window.SetField(Field::kNote, BeginningForTextBox(entry.NoteText, kMostShown));
     program.details.CurrentShotPath =
         FileExists(program.files, entry.ShotPath) ? entry.ShotPath : program.paths.DefaultShotPath;
@@ -43,11 +44,6 @@ void RefreshDetails(Program& program) {
 void SelectOnly(Program& program, int index) {
   program.main_window.SelectLine(index);
   RefreshDetails(program);
-}
-
-void ShowScreenShot(Program& program) {
-  program.details.ViewerOpen = true;
-  program.main_window.ShowViewer(program.details.CurrentShotPath);
 }
 
 }  // namespace vellumark

@@ -18,9 +18,6 @@ void RefreshDetails(Program& program);
 // Leaves exactly this catalogue entry's line selected and shows its details.
 void SelectOnly(Program& program, int index);
 
-// The viewer: shows the picture that was current when it was asked for.
-void ShowScreenShot(Program& program);
-
 }  // namespace vellumark
 
 #endif  // VELLUMARK_SAVEGAMES_DETAILS_H_

@@ -7,6 +7,12 @@
 
 namespace vellumark {
 
+// What the viewer shows.
+struct ViewedShot {
+  std::string picture;  // the path of a file; empty for none
+  std::string line{};   // counter, level and note of the savegame; empty when it is none's
+};
+
 class MainWindow {
  public:
   enum class Field { kTotSavegame, kTotCartelle, kPathSavegame, kNote, kTrovati };
@@ -32,9 +38,9 @@ class MainWindow {
   // no readable picture, shows none.
   virtual void ShowPicture(const std::string& path) = 0;
 
-  // Shows the picture of a file in the viewer, opening the viewer when it is not open, with an
-  // empty title, in front and without blocking this window.
-  virtual void ShowViewer(const std::string& path) = 0;
+  // Shows a picture in the viewer, opening the viewer when it is not open, with an empty title, in
+  // front and without blocking this window.
+  virtual void ShowViewer(const ViewedShot& shot) = 0;
 };
 
 }  // namespace vellumark

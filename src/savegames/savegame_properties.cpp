@@ -60,6 +60,30 @@ bool ReplaceScreenShot(Program& program, const std::string& shot, const std::str
   return ReplaceFile(program.files, shot, jpeg) == FileError::kNone;
 }
 
+// Puts a chosen file in the place of the savegame's screen-shot. False when nothing has changed; a
+// failure was told.
+bool LinkScreenShot(Program& program, int index, const std::string& chosen,
+                    const PictureFormats& formats) {
+  const std::string shot = EntryAt(program, index).ShotPath;
+  const ReadResult read = program.files.Read(chosen, FileSystem::kWholeFile);
+  const auto picture = ScreenShotFrom(program, read, chosen, formats);
+  if (!picture) return false;
+  // A picture that stays as it is is copied, with what the disk knows of it beside its bytes.
+  const bool as_it_is = read.error != FileError::kNone || *picture == read.bytes;
+  const bool done = as_it_is ? CopyToScreenShot(program, chosen, shot)
+                             : ReplaceScreenShot(program, shot, *picture);
+  if (done) return true;
+  Tell(program, LoadMessage(165, {chosen}) + shot, BoxIcon::kCritical);
+  return false;
+}
+
+// The list and the details show what a change has made of a savegame.
+void ShowChanged(Program& program, int index) {
+  program.main_window.ReplaceLine(index, FormatListLine(program, index));
+  program.archive.ArchiveChanged = true;
+  SelectOnly(program, index);
+}
+
 bool IsPossibleCounter(Program& program, std::optional<std::int64_t> counter) {
   if (!counter || FitsInt16(*counter)) return true;
   PlaySoundEffect(program, SoundEffect::kRefusal);
@@ -193,22 +217,22 @@ std::string LinkedShot(Program& program, int index) {
 }
 
 bool ChooseScreenShot(Program& program, int index, const PictureFormats& formats) {
-  const std::string shot = EntryAt(program, index).ShotPath;
   const auto chosen = program.file_dialogs.Open(
       {.title = LoadMessage(163),
        .filter = LoadMessage(164) + LoadMessage(kPicturesFilter, {formats.patterns}),
        .start_folder = ShotStartFolder(program)});
-  if (!chosen) return false;
-  const ReadResult read = program.files.Read(*chosen, FileSystem::kWholeFile);
-  const auto picture = ScreenShotFrom(program, read, *chosen, formats);
-  if (!picture) return false;
-  // A picture that stays as it is is copied, with what the disk knows of it beside its bytes.
-  const bool as_it_is = read.error != FileError::kNone || *picture == read.bytes;
-  const bool done = as_it_is ? CopyToScreenShot(program, *chosen, shot)
-                             : ReplaceScreenShot(program, shot, *picture);
-  if (done) return true;
-  Tell(program, LoadMessage(165, {*chosen}) + shot, BoxIcon::kCritical);
-  return false;
+  return chosen && LinkScreenShot(program, index, *chosen, formats);
+}
+
+void LinkDroppedPicture(Program& program, int index, const std::string& chosen,
+                        const PictureFormats& formats) {
+  const std::string& savegame = EntryAt(program, index).SavegamePath;
+  const std::string question = LoadMessage(kReplaceShot, {Quoted(savegame), Quoted(chosen)});
+  if (!LinkedShot(program, index).empty() && !AskFromNo(program, question, BoxIcon::kExclamation)) {
+    return;
+  }
+  if (!LinkScreenShot(program, index, chosen, formats)) return;
+  ShowChanged(program, index);
 }
 
 ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& changes) {
@@ -228,9 +252,7 @@ ChangesAnswer ApplySavegameChanges(Program& program, const SavegameChanges& chan
     StoreCounter(program, changes.index, static_cast<std::int16_t>(*counter), failures);
   }
 
-  program.main_window.ReplaceLine(changes.index, FormatListLine(program, changes.index));
-  program.archive.ArchiveChanged = true;
-  SelectOnly(program, changes.index);
+  ShowChanged(program, changes.index);
   TellOutcome(program, failures, false, story);
   return ChangesAnswer::kDone;
 }

@@ -47,6 +47,11 @@ struct PictureFormats {
 // changed; a failure was told.
 bool ChooseScreenShot(Program& program, int index, const PictureFormats& formats);
 
+// The same for a picture that was put on a savegame outside the dialog. Before it takes the place
+// of another the user is asked, and list and details show it then.
+void LinkDroppedPicture(Program& program, int index, const std::string& chosen,
+                        const PictureFormats& formats);
+
 struct SavegameChanges {
   int index = 0;
   std::string shown_note{};         // the note that the dialog was opened with, in its stored form

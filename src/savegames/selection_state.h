@@ -15,8 +15,16 @@ struct Selection {
   std::int16_t Count() const { return static_cast<std::int16_t>(indices.size()); }
 };
 
+// A savegame in the catalogue, to be found again after a scan.
+struct SavegamePlace {
+  std::string savegame;  // its path; empty for none
+  int index = 0;         // where it was
+};
+
 struct DetailsState {
   std::string CurrentShotPath;  // the picture that the main window shows; empty for none
+  SavegamePlace shown{};        // whose picture that is, or would be
+  SavegamePlace viewed{};       // the same for the viewer
   bool ViewerOpen = false;      // the screen-shot viewer is loaded
 };
 

@@ -99,6 +99,27 @@ std::optional<ArchiveRead> ReadChosenArchive(Program& program, const std::string
   return std::nullopt;
 }
 
+// Makes the archive of a file the one in use.
+void TakeArchive(Program& program, const std::string& path) {
+  if (!FitsRecord(program, path)) return;
+  const auto read = ReadChosenArchive(program, path);
+  if (!read) return;
+
+  if (!SamePath(program.text, read->settings.GameFolder, program.archive.settings.GameFolder)) {
+    RestoreOriginalSavegames(program);
+  }
+  // Only now: while the question waits, path and settings are those of one archive.
+  program.preferences.LastArchive = path;
+  program.archive.settings = read->settings;
+  program.archive.file_bytes = read->bytes;
+  program.archive.read_in_part.reset();
+  program.archive.never_written = false;
+  program.archive.ArchiveChanged = false;
+  program.session.missing_archive.clear();
+  ClearMainWindow(program);
+  ScanArchive(program);
+}
+
 }  // namespace
 
 void SaveArchive(Program& program) {
@@ -190,28 +211,17 @@ void LoadArchive(Program& program) {
                                                  .filter = LoadMessage(267),
                                                  .start_folder = program.paths.ProgramFolder,
                                                  .initial_name = ""});
-  if (!chosen) return;
-  const std::string path = Trimmed(*chosen);
-  if (FitsRecord(program, path)) OpenArchive(program, path);
+  if (chosen) TakeArchive(program, Trimmed(*chosen));
 }
 
 void OpenArchive(Program& program, const std::string& path) {
-  const auto read = ReadChosenArchive(program, path);
-  if (!read) return;
+  SaveArchiveIfChanged(program);
+  TakeArchive(program, Trimmed(path));
+}
 
-  if (!SamePath(program.text, read->settings.GameFolder, program.archive.settings.GameFolder)) {
-    RestoreOriginalSavegames(program);
-  }
-  // Only now: while the question waits, path and settings are those of one archive.
-  program.preferences.LastArchive = path;
-  program.archive.settings = read->settings;
-  program.archive.file_bytes = read->bytes;
-  program.archive.read_in_part.reset();
-  program.archive.never_written = false;
-  program.archive.ArchiveChanged = false;
-  program.session.missing_archive.clear();
-  ClearMainWindow(program);
-  ScanArchive(program);
+std::string NamedArchive(const Program& program) {
+  const std::string path = Trimmed(program.preferences.LastArchive);
+  return HasNoNameOfItsOwn(path) ? std::string() : path;
 }
 
 }  // namespace vellumark

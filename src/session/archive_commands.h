@@ -33,8 +33,11 @@ void NewArchive(Program& program);
 // everything stays as it was.
 void LoadArchive(Program& program);
 
-// The same for the archive file with this path, which must fit a record.
+// Opens this archive file as LoadArchive does the one that it asks for.
 void OpenArchive(Program& program, const std::string& path);
+
+// The file of the archive in use; empty without one, and while the archive has no name of its own.
+std::string NamedArchive(const Program& program);
 
 }  // namespace vellumark
 

@@ -12,19 +12,20 @@ struct AccessKey {
 
 // Menus and buttons share the window's letters; the items of one menu share that menu's.
 constexpr AccessKey kPrincipaleKeys[] = {
-    {"mnu_File", 'F'},         {"mnu_Savegames", 'S'},   {"mnu_Tools", 'T'},
-    {"mnu_Preference", 'P'},   {"mnu_Help", 'H'},        {"Pul_StartTomb", 'R'},
-    {"Pul_Play", 'L'},         {"Pul_CambiaProp", 'C'},  {"Pul_Zoom", 'Z'},
-    {"Pul_Cerca", 'I'},        {"mnu_New", 'N'},         {"mnu_Load", 'L'},
-    {"mnu_Save", 'S'},         {"mnu_SaveAs", 'A'},      {"mnu_Exit", 'X'},
-    {"mnu_Archivia", 'I'},     {"mnu_Find", 'F'},        {"mnu_Examine", 'P'},
-    {"mnu_PropSavegame", 'R'}, {"mnu_Copy", 'C'},        {"mnu_Move", 'M'},
-    {"mnu_Delete", 'D'},       {"mnu_Reorder", 'O'},     {"mnu_Scansione", 'R'},
-    {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'}, {"mnu_ShowHelp", 'H'},
-    {"mnu_Rescued", 'S'},      {"mnu_View", 'V'},        {"mnu_ViewList", 'L'},
-    {"mnu_ViewPictures", 'P'}, {"Pul_PageNew", 'N'},     {"Pul_PageOpen", 'O'},
-    {"Pul_PageHelp", 'W'},     {"Pul_PageAgain", 'G'},   {"mnu_About", 'A'},
-    {"mnu_ViewLarger", 'A'},   {"mnu_ViewSmaller", 'S'}, {"mnu_ViewGoToLevel", 'G'},
+    {"mnu_File", 'F'},         {"mnu_Savegames", 'S'},    {"mnu_Tools", 'T'},
+    {"mnu_Preference", 'P'},   {"mnu_Help", 'H'},         {"Pul_StartTomb", 'R'},
+    {"Pul_Play", 'L'},         {"Pul_CambiaProp", 'C'},   {"Pul_Zoom", 'Z'},
+    {"Pul_Cerca", 'I'},        {"mnu_New", 'N'},          {"mnu_Load", 'L'},
+    {"mnu_Save", 'S'},         {"mnu_SaveAs", 'A'},       {"mnu_Exit", 'X'},
+    {"mnu_Archivia", 'I'},     {"mnu_Find", 'F'},         {"mnu_Examine", 'P'},
+    {"mnu_PropSavegame", 'R'}, {"mnu_Copy", 'C'},         {"mnu_Move", 'M'},
+    {"mnu_Delete", 'D'},       {"mnu_Reorder", 'O'},      {"mnu_Scansione", 'R'},
+    {"mnu_PrefArchive", 'A'},  {"mnu_PrefManager", 'V'},  {"mnu_ShowHelp", 'H'},
+    {"mnu_Rescued", 'S'},      {"mnu_View", 'V'},         {"mnu_ViewList", 'L'},
+    {"mnu_ViewPictures", 'P'}, {"Pul_PageNew", 'N'},      {"Pul_PageOpen", 'O'},
+    {"Pul_PageHelp", 'W'},     {"Pul_PageAgain", 'G'},    {"mnu_About", 'A'},
+    {"mnu_ViewLarger", 'A'},   {"mnu_ViewSmaller", 'S'},  {"mnu_ViewGoToLevel", 'G'},
+    {"mnu_Recent", 'R'},       {"mnu_ShowInFolder", 'S'}, {"mnu_CopyPath", 'T'},
 };
 
 constexpr AccessKey kSetNewArcKeys[] = {
@@ -95,6 +96,12 @@ constexpr AccessKey kRescuedKeys[] = {
     {"Pul_Delete", 'D'},    {"Pul_Close", 'C'},
 };
 
+constexpr AccessKey kScreenShotKeys[] = {
+    {"mnu_Previous", 'P'}, {"mnu_Next", 'N'},        {"mnu_ZoomIn", 'I'},
+    {"mnu_ZoomOut", 'O'},  {"mnu_Fit", 'F'},         {"mnu_EveryPixel", 'E'},
+    {"mnu_Line", 'L'},     {"mnu_WholeScreen", 'W'}, {"mnu_Close", 'C'},
+};
+
 std::span<const AccessKey> KeysOf(WindowId window) {
   switch (window) {
     case WindowId::kPrincipale:
@@ -115,6 +122,8 @@ std::span<const AccessKey> KeysOf(WindowId window) {
       return kRiordinaKeys;
     case WindowId::kDialogRescued:
       return kRescuedKeys;
+    case WindowId::kDialogScreenShot:
+      return kScreenShotKeys;
     default:
       return {};
   }

@@ -88,6 +88,19 @@ void ArchiveViews::AddCommand(QAction* command) {
   pictures_->addAction(command);
 }
 
+int ArchiveViews::LineAt(QPoint global) const {
+  const QAbstractItemView& view = ViewOf(chosen_);
+  const QPoint at = view.viewport()->mapFromGlobal(global);
+  if (instead_ != nullptr || !view.viewport()->rect().contains(at)) return -1;
+  return view.indexAt(at).row();
+}
+
+QRect ArchiveViews::RectOf(int line) const {
+  const QAbstractItemView& view = ViewOf(chosen_);
+  const QRect seen = view.visualRect(lines_->index(line)) & view.viewport()->rect();
+  return {view.viewport()->mapToGlobal(seen.topLeft()), seen.size()};
+}
+
 void ArchiveViews::SetLines(QStringList lines) {
   const QScopedValueRollback own_change(own_change_, true);
   lines_->SetLines(std::move(lines));

@@ -43,6 +43,11 @@ class ArchiveViews final : public QStackedWidget {
   // Offers a command in the context menu of each view.
   void AddCommand(QAction* command);
 
+  // The line at a point of the screen, in the view that is shown; -1 where there is none. And the
+  // place of one on the screen, as far as it is in sight.
+  int LineAt(QPoint global) const;
+  QRect RectOf(int line) const;
+
   void SetLines(QStringList lines);
   void ReplaceLine(int index, const QString& line);
   std::vector<int> SelectedLines() const;

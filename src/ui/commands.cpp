@@ -11,8 +11,10 @@
 #include "maintenance/delete_selected.h"
 #include "program.h"
 #include "savegames/details.h"
+#include "savegames/savegame_place.h"
 #include "savegames/savegame_properties.h"
 #include "savegames/search.h"
+#include "savegames/viewer.h"
 #include "session/archive_commands.h"
 
 namespace vellumark {
@@ -41,6 +43,9 @@ constexpr Command kCommands[] = {
     {"mnu_Savegames", "mnu_Copy", nullptr, "Ctrl+C", CopySelection, true},
     {"mnu_Savegames", "mnu_Move", nullptr, "Ctrl+M", MoveSelection, true},
     {"mnu_Savegames", "mnu_Delete", nullptr, "Del", DeleteSelectedSavegames, true},
+    {"mnu_Savegames", "-", nullptr, "", nullptr},
+    {"mnu_Savegames", "mnu_ShowInFolder", nullptr, "", ShowInFileManager},
+    {"mnu_Savegames", "mnu_CopyPath", nullptr, "Ctrl+Shift+C", CopyPaths, true},
 
     {"mnu_Tools", "mnu_Reorder", nullptr, "", Show<WindowId::kDialogRiordina>},
     {"mnu_Tools", "mnu_Scansione", nullptr, "F5", RescanCommand},

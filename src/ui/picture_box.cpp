@@ -43,13 +43,25 @@ PictureBox::PictureBox(FileSystem& files, QWidget* parent) : QWidget(parent), fi
 }
 
 void PictureBox::ShowFile(const std::string& path) {
-  const int number = ++*asked_;
+  path_ = path;
+  whole_asked_ = false;
   ShowImage({});
-  if (path.empty()) return;
-  ReadResult read = files_.Read(path, FileSystem::kWholeFile);
-  if (read.error != FileError::kNone) return ShowWords(NotShown(ReasonFor(read.error)));
+  Load(screen()->size() * devicePixelRatioF());
+}
 
-  const QSize most = screen()->size() * devicePixelRatioF();
+void PictureBox::LoadWhole() {
+  if (whole_asked_ || picture_.size() == whole_size_) return;
+  whole_asked_ = true;
+  Load({});
+}
+
+void PictureBox::Load(QSize most) {
+  const int number = ++*asked_;
+  if (path_.empty()) return;
+  ReadResult read = files_.Read(path_, FileSystem::kWholeFile);
+  if (read.error != FileError::kNone) {
+    return picture_.isNull() ? ShowWords(NotShown(ReasonFor(read.error))) : void();
+  }
   const auto work = [bytes = std::move(read.bytes), most, number, asked = asked_] {
     return number == *asked ? DecodePicture(bytes, most) : DecodedPicture();
   };
@@ -70,8 +82,12 @@ void PictureBox::ShowFile(const std::string& path) {
 }
 
 void PictureBox::Take(const DecodedPicture& decoded) {
-  if (decoded.image.isNull()) return ShowWords(NotShown(WordsFor(decoded.fault)));
-  ShowImage(decoded.image);
+  if (!decoded.image.isNull()) {
+    ShowImage(decoded.image);
+    whole_size_ = decoded.whole_size;
+  } else if (picture_.isNull()) {
+    ShowWords(NotShown(WordsFor(decoded.fault)));
+  }
 }
 
 void PictureBox::ShowWords(const QString& words) {
@@ -83,6 +99,7 @@ void PictureBox::ShowWords(const QString& words) {
 
 void PictureBox::ShowImage(const QImage& image) {
   picture_ = image;
+  whole_size_ = image.size();
   words_.clear();
   setAccessibleDescription({});
   scaled_ = {};

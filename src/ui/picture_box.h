@@ -31,6 +31,9 @@ class PictureBox : public QWidget {
 
   const QImage& Picture() const { return picture_; }
 
+  // The size that the picture has in its file; what is shown may have been made smaller.
+  QSize WholeSize() const { return whole_size_; }
+
  signals:
   // A picture that took long is there.
   void Arrived();
@@ -38,16 +41,24 @@ class PictureBox : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
 
+  // Reads the picture again, as large as it is in its file, when it was made smaller. What is shown
+  // stays until it is there.
+  void LoadWhole();
+
   // Where the picture is painted.
   virtual QRect PictureArea() const { return rect(); }
 
  private:
+  void Load(QSize most);
   void Take(const DecodedPicture& decoded);
   void PaintWords();
   void ShowWords(const QString& words);
 
   FileSystem& files_;
+  std::string path_;
   QImage picture_;
+  QSize whole_size_;
+  bool whole_asked_ = false;
   QString words_;  // in the place of a picture
   // The number of the last picture asked for; a thread that gets to an older one drops it.
   std::shared_ptr<std::atomic<int>> asked_ = std::make_shared<std::atomic<int>>(0);

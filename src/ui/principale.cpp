@@ -29,6 +29,8 @@
 #include "savegames/details.h"
 #include "savegames/list_line.h"
 #include "savegames/notes.h"
+#include "savegames/viewer.h"
+#include "session/archive_commands.h"
 #include "session/first_page.h"
 #include "session/shut_down.h"
 #include "ui/archive_views.h"
@@ -36,15 +38,18 @@
 #include "ui/capture_dialog.h"
 #include "ui/commands.h"
 #include "ui/controls.h"
+#include "ui/drops.h"
 #include "ui/first_page_view.h"
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
 #include "ui/pictures_view.h"
 #include "ui/read_only_field.h"
+#include "ui/recent_archives.h"
 #include "ui/savegame_list.h"
 #include "ui/screen_room.h"
 #include "ui/screen_shot_viewer.h"
 #include "ui/view_menu.h"
+#include "ui/window_memory.h"
 #include "ui/wrapping_row.h"
 
 namespace vellumark {
@@ -90,6 +95,7 @@ Principale::Principale(FileSystem& files, const Text& text) : files_(files), tex
   setObjectName(QStringLiteral("Principale"));
   resize(QSize(1120, 700).boundedTo(RoomOnScreen(*this)));
   BuildMenus();
+  BuildRecentMenu();
   BuildCentre();
   SetTabOrder();
   NameControlsWithoutCaption();
@@ -107,6 +113,12 @@ void Principale::Attach(Program& program) {
   program_ = &program;
   views_->Attach(program);
   view_menu_->Attach(program);
+  Recall();
+  const auto* drops = new Drops(program, *views_, *this);
+  connect(drops, &Drops::Taken, this, [this] {
+    recent_->Add(NamedArchive(*program_));
+    RefreshPage();
+  });
   connect(views_, &ArchiveViews::SelectionTouched, this, [this] { RefreshDetails(*program_); });
   for (const Command& command : Commands()) Connect(command);
   connect(&timer_, &QTimer::timeout, this, [this] {
@@ -133,10 +145,28 @@ void Principale::BuildMenus() {
   }
 }
 
+// Below the command that asks for an archive.
+void Principale::BuildRecentMenu() {
+  auto* file = menuBar()->findChild<QMenu*>(QStringLiteral("mnu_File"));
+  recent_ = Named(new RecentArchives(files_, text_, file), "mnu_Recent");
+  const QList<QAction*> items = file->actions();
+  const auto load = std::ranges::find(items, findChild<QAction*>(QStringLiteral("mnu_Load")));
+  file->insertMenu(load == items.end() ? nullptr : *std::next(load), recent_);
+  connect(file, &QMenu::aboutToShow, this, [this] {
+    recent_->Add(NamedArchive(*program_));
+    recent_->menuAction()->setEnabled(!recent_->Paths().isEmpty());
+  });
+  connect(recent_, &RecentArchives::Chosen, this, [this](const std::string& path) {
+    OpenArchive(*program_, path);
+    recent_->Add(NamedArchive(*program_));
+    RefreshPage();
+  });
+}
+
 // What can be done with the selected savegames; the right mouse button or the Menu key shows it.
 void Principale::BuildContextMenu() {
-  for (const char* name :
-       {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete"}) {
+  for (const char* name : {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move", "mnu_Delete",
+                           "mnu_ShowInFolder", "mnu_CopyPath"}) {
     views_->AddCommand(findChild<QAction*>(QLatin1String(name)));
   }
 }
@@ -144,21 +174,21 @@ void Principale::BuildContextMenu() {
 void Principale::BuildCentre() {
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
-  auto* splitter = new QSplitter(Qt::Horizontal, centre);
-  splitter->setChildrenCollapsible(false);
-  views_ = new ArchiveViews(files_, splitter);
+  splitter_ = new QSplitter(Qt::Horizontal, centre);
+  splitter_->setChildrenCollapsible(false);
+  views_ = new ArchiveViews(files_, splitter_);
   views_->setMinimumWidth(160);
   view_menu_ = new ViewMenu(*views_, this);
   menuBar()->insertMenu(findChild<QMenu*>(QStringLiteral("mnu_Tools"))->menuAction(), view_menu_);
   BuildContextMenu();
   BuildPage();
-  splitter->addWidget(views_);
-  splitter->addWidget(BuildDetails());
-  splitter->setStretchFactor(0, 1);
-  splitter->setStretchFactor(1, 0);
+  splitter_->addWidget(views_);
+  splitter_->addWidget(BuildDetails());
+  splitter_->setStretchFactor(0, 1);
+  splitter_->setStretchFactor(1, 0);
   const int details_width = std::min(350, width() * 2 / 5);
-  splitter->setSizes({width() - details_width, details_width});
-  column->addWidget(splitter, 1);
+  splitter_->setSizes({width() - details_width, details_width});
+  column->addWidget(splitter_, 1);
   column->addWidget(BuildPathLine());
   column->addWidget(BuildBottomLine());
   setCentralWidget(centre);
@@ -292,7 +322,9 @@ void Principale::Connect(const Command& command) {
 }
 
 void Principale::Run(const Command& command) {
+  recent_->Add(NamedArchive(*program_));
   command.run(*program_);
+  recent_->Add(NamedArchive(*program_));
   RefreshPage();
 }
 
@@ -325,6 +357,34 @@ void Principale::showEvent(QShowEvent* event) {
   if (program_ != nullptr) RefreshPage();
   views_->setFocus();
   QMainWindow::showEvent(event);
+}
+
+// The window as the last run left it.
+void Principale::Recall() {
+  const WindowMemory memory = ReadWindowMemory(files_, program_->paths.ProgramFolder);
+  RestorePlace(*this, memory);
+  if (memory.details_width) {
+    splitter_->setSizes({std::max(1, width() - *memory.details_width), *memory.details_width});
+  }
+  if (memory.pictures) views_->Choose(ArchiveView::kPictures);
+  if (memory.tile_size && *memory.tile_size <= static_cast<int>(TileSize::kLarge)) {
+    views_->Pictures().SetSize(static_cast<TileSize>(*memory.tile_size));
+  }
+  viewer_line_ = memory.viewer_line;
+  recent_->SetPaths(memory.archives);
+}
+
+void Principale::Remember() {
+  if (!isVisible()) return;  // it ends before it began
+  recent_->Add(NamedArchive(*program_));
+  WindowMemory memory;
+  RememberPlace(*this, memory);
+  memory.details_width = splitter_->sizes().constLast();
+  memory.pictures = views_->Chosen() == ArchiveView::kPictures;
+  memory.tile_size = static_cast<int>(views_->Pictures().Size());
+  memory.viewer_line = viewer_line_;
+  memory.archives = recent_->Paths();
+  WriteWindowMemory(files_, program_->paths.ProgramFolder, memory);
 }
 
 void Principale::ShowLines(std::vector<std::string> lines) {
@@ -371,13 +431,20 @@ void Principale::SetField(Field field, const std::string& text) {
 
 void Principale::ShowPicture(const std::string& path) { picture_->ShowFile(path); }
 
-void Principale::ShowViewer(const std::string& path) {
+void Principale::ShowViewer(const ViewedShot& shot) {
   if (viewer_ == nullptr) {
     viewer_ = new ScreenShotViewer(files_, this);
     SetCaptions(WindowId::kDialogScreenShot);
+    viewer_->SetShowsLine(viewer_line_);
     connect(viewer_, &QDialog::finished, this, [this] { program_->details.ViewerOpen = false; });
+    connect(viewer_, &ScreenShotViewer::PreviousWanted, this,
+            [this] { ShowPreviousScreenShot(*program_); });
+    connect(viewer_, &ScreenShotViewer::NextWanted, this,
+            [this] { ShowNextScreenShot(*program_); });
+    connect(viewer_, &ScreenShotViewer::LineToggled, this,
+            [this](bool shows) { viewer_line_ = shows; });
   }
-  viewer_->ShowPicture(path);
+  viewer_->ShowPicture(shot.picture, ToDisplayLine(text_, shot.line, 0));
 }
 
 void Principale::SetCaptions(WindowId window) {
@@ -448,6 +515,7 @@ void Principale::closeEvent(QCloseEvent* event) {
   event->accept();
   if (std::exchange(closing_, true)) return;
   MainWindowClosing(*program_);
+  Remember();
   timer_.stop();
   emit Closed();
 }

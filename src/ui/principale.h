@@ -18,6 +18,7 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QProgressBar;
+class QSplitter;
 
 namespace vellumark {
 
@@ -26,6 +27,7 @@ struct Program;
 class ArchiveViews;
 class FileSystem;
 class FirstPageView;
+class RecentArchives;
 class ScreenShotViewer;
 class ShotBox;
 class Text;
@@ -43,6 +45,8 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
 
   // Shows what there is to say while there is no list, or takes that away.
   void RefreshPage();
+  // Writes down what the next run's window is to look like. For an orderly end of a run only.
+  void Remember();
 
   // MainWindow
   void ShowLines(std::vector<std::string> lines) override;
@@ -51,7 +55,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void SelectLine(int index) override;
   void SetField(Field field, const std::string& text) override;
   void ShowPicture(const std::string& path) override;
-  void ShowViewer(const std::string& path) override;
+  void ShowViewer(const ViewedShot& shot) override;
 
   // Windows
   void SetCaptions(WindowId window) override;
@@ -72,6 +76,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
 
  private:
   void BuildMenus();
+  void BuildRecentMenu();
   void BuildContextMenu();
   void BuildPage();
   void BuildCentre();
@@ -83,6 +88,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   void DimWhatIsNotSelected();
   void Connect(const Command& command);
   void Run(const Command& command);
+  void Recall();
   bool IsOpen(WindowId dialog);
 
   FileSystem& files_;
@@ -90,6 +96,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   Program* program_ = nullptr;
   bool closing_ = false;
 
+  QSplitter* splitter_ = nullptr;
   ArchiveViews* views_ = nullptr;
   FirstPageView* page_ = nullptr;
   ViewMenu* view_menu_ = nullptr;
@@ -99,11 +106,13 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
   QLineEdit* total_savegames_ = nullptr;
   QLineEdit* total_folders_ = nullptr;
   QLineEdit* found_ = nullptr;
+  RecentArchives* recent_ = nullptr;
   QTimer timer_;
   QProgressBar* progress_ = nullptr;  // in the place of the path while an operation takes long
   QElapsedTimer working_;             // since the operation has begun
   QElapsedTimer painted_;             // since the windows were last let paint
   QPointer<ScreenShotViewer> viewer_;
+  bool viewer_line_ = true;  // the viewer shows the line below its picture
   std::map<WindowId, QPointer<QDialog>> open_dialogs_;  // those that are shown
 };
 

@@ -4,20 +4,18 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "foundation/messages.h"
-#include "platform/qt/beside.h"
-#include "platform/qt/picture_reading.h"
 #include "program.h"
 #include "savegames/savegame_properties.h"
 #include "ui/controls.h"
 #include "ui/note_box.h"
 #include "ui/path_label.h"
+#include "ui/picture_formats.h"
 #include "ui/read_only_field.h"
 
 namespace vellumark {
@@ -29,19 +27,6 @@ QLabel* LabelFor(const char* name, QWidget* field) {
   auto* label = Named<QLabel>(name, field->parentWidget());
   label->setBuddy(field);
   return label;
-}
-
-// Those that this computer can read.
-PictureFormats Pictures() {
-  QStringList patterns;
-  const QList<QByteArray> readable = QImageReader::supportedImageFormats();
-  for (const char* ending : {"jpg", "jpeg", "png", "bmp", "webp"}) {
-    if (readable.contains(ending)) patterns.append(QStringLiteral("*.") + QLatin1String(ending));
-  }
-  return {.patterns = patterns.join(u';').toStdString(), .as_jpeg = [](const std::string& bytes) {
-            return WaitPainting(
-                BeginBeside<std::optional<std::string>>([bytes] { return AsJpegFile(bytes); }));
-          }};
 }
 
 }  // namespace
@@ -122,7 +107,7 @@ void SavegamePropertiesDialog::ImpostaValori() {
 void SavegamePropertiesDialog::ShowShot() { shot_->SetPath(ToText(LinkedShot(program(), index_))); }
 
 void SavegamePropertiesDialog::Browse() {
-  if (ChooseScreenShot(program(), index_, Pictures())) ShowShot();
+  if (ChooseScreenShot(program(), index_, ReadablePictures())) ShowShot();
 }
 
 void SavegamePropertiesDialog::Accept() {

@@ -7,10 +7,15 @@
 
 namespace vellumark {
 
+// The largest size at which a window lies with its frame inside an area of this size.
+inline QSize RoomIn(QSize area) {
+  constexpr QSize kFrame(16, 40);  // at most; how large it is shows only later
+  return area - kFrame;
+}
+
 // The largest size at which a window lies with its frame inside the free area of its screen.
 inline QSize RoomOnScreen(const QWidget& window) {
-  constexpr QSize kFrame(16, 40);  // at most; how large it is shows only later
-  return window.screen()->availableGeometry().size() - kFrame;
+  return RoomIn(window.screen()->availableGeometry().size());
 }
 
 }  // namespace vellumark

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "savegames/list_line.h"
+#include "savegames/viewer.h"
 #include "support/open_world.h"
 
 namespace vellumark {
@@ -73,7 +74,7 @@ TEST_F(DetailsTest, ShowTheOneSelectedSavegameAndItsPictureInTheViewer) {
   EXPECT_EQ(windows.fields[Field::kNote], "one\r\ntwo");
   EXPECT_EQ(windows.picture, "T:\\Archive\\Slot1\\shot2.jpg");
   EXPECT_TRUE(program.details.ViewerOpen);
-  EXPECT_EQ(windows.viewer, "T:\\Archive\\Slot1\\shot2.jpg");
+  EXPECT_EQ(windows.viewer.picture, "T:\\Archive\\Slot1\\shot2.jpg");
 
   SelectOnly(program, 1);
   EXPECT_EQ(windows.picture, "T:\\Program\\default_shot.jpg");

@@ -244,5 +244,29 @@ TEST_F(ArchiveCommandsTest, ValidationNamesTheFirstMissingSetting) {
   EXPECT_TRUE(Contains(refusal(), "sub-folder name"));
 }
 
+TEST_F(ArchiveCommandsTest, AnArchiveThatIsNamedOpensAsOneThatIsChosen) {
+  ArchiveSettings other = testing::WorldSettings();
+  other.SubfolderBaseName = "Other";
+  disk.Write("Other.vmk", EncodeArchive(other));
+  program.archive.settings.SubfolderBaseName = "Slot";
+  const std::string before = disk.Read("Archive.vmk");
+  program.archive.settings.MaxSavegame = 9;
+  OpenArchive(program, " T:\\Other.vmk ");
+  EXPECT_NE(disk.Read("Archive.vmk"), before) << "the changed one is saved first";
+  EXPECT_EQ(NamedArchive(program), "T:\\Other.vmk");
+  EXPECT_EQ(program.archive.settings.SubfolderBaseName, "Other");
+  EXPECT_EQ(program.catalogue.EntryCount(), 1) << "the game's";
+  EXPECT_TRUE(dialogs.requests.empty());
+
+  for (const char* refused : {"T:\\None.vmk", "T:\\Game", "T:\\Game\\savegame.0"}) {
+    boxes.shown.clear();
+    OpenArchive(program, refused);
+    EXPECT_EQ(boxes.shown.size(), 1U) << refused;
+    EXPECT_EQ(NamedArchive(program), "T:\\Other.vmk");
+  }
+  program.preferences.LastArchive = "T:\\Program\\NoName.vmk";
+  EXPECT_EQ(NamedArchive(program), "");
+}
+
 }  // namespace
 }  // namespace vellumark

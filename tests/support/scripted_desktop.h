@@ -76,6 +76,10 @@ class RecordedShell final : public Shell {
     opened.push_back({document, parameters, working_folder, hidden});
     return answer;
   }
+  bool ShowInFolder(const std::string& file) override {
+    shown.push_back(file);
+    return answer;
+  }
   StartedProgram LastStarted() override { return started; }
   MissingPart MissingFor(const std::string& /*document*/, bool is_32_bit) override {
     const bool lacks = missing.kind != MissingPart::Kind::kWineFor32Bit || is_32_bit;
@@ -89,6 +93,7 @@ class RecordedShell final : public Shell {
     bool hidden;
   };
   std::vector<Opened> opened;
+  std::vector<std::string> shown;  // in its folder
   bool answer = true;
   StartedProgram started;
   MissingPart missing;
@@ -125,11 +130,13 @@ class ScriptedClipboard final : public Clipboard {
  public:
   ClipboardRead ReadPicture() override;
   void Empty() override;
+  void PutText(const std::string& new_text) override { text = new_text; }
 
   void Put(const std::string& jpeg) { content = std::make_shared<ScriptedPicture>(jpeg); }
 
   std::shared_ptr<const Picture> content;
   bool busy = false;
+  std::string text;
   int reads = 0;
   int emptied = 0;
   std::function<void()> after_empty;  // what another program does right then
@@ -148,7 +155,7 @@ class ScriptedWindows final : public MainWindow, public Windows {
   void SelectLine(int index) override { selected = {index}; }
   void SetField(Field field, const std::string& text) override { fields[field] = text; }
   void ShowPicture(const std::string& path) override { picture = path; }
-  void ShowViewer(const std::string& path) override { viewer = path; }
+  void ShowViewer(const ViewedShot& shot) override { viewer = shot; }
   void SetCaptions(WindowId window) override { events.push_back({"captions", window}); }
   void ShowModal(WindowId dialog) override {
     events.push_back({"modal", dialog});
@@ -169,7 +176,7 @@ class ScriptedWindows final : public MainWindow, public Windows {
   std::vector<int> selected;
   std::map<Field, std::string> fields;
   std::string picture;
-  std::string viewer;
+  ViewedShot viewer;
   std::vector<std::pair<std::string, WindowId>> events;
   bool looks_busy = false;
   int painted_busy = 0;  // how often an operation has let the windows paint

@@ -83,6 +83,10 @@ void WindowFixture::init() {
   world_->WriteArchiveFile();
   world_->WritePreferences();
   Prepare();
+  Start();
+}
+
+void WindowFixture::Start() {
   window_ = std::make_unique<Principale>(world_->files, world_->text);
   program_.reset(new Program(world_->NewProgram(*window_, *window_)));
   window_->Attach(*program_);

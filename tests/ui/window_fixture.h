@@ -61,6 +61,9 @@ class WindowFixture : public QObject {
   // Puts on the disk what is there before the program starts.
   virtual void Prepare() {}
 
+  // Starts the program; when it has run before, that run must have come to its end.
+  void Start();
+
   void InDialog(const char* menu_item, const std::function<void(QDialog*)>& act);
   // Opens a modal dialog; `act` is done in it, and it is cancelled then if it is still open.
   void InDialog(const std::function<void()>& open, const std::function<void(QDialog*)>& act);

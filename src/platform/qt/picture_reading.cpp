@@ -54,7 +54,8 @@ DecodedPicture Decode(std::string_view bytes, QSize most, const Check& check) {
 
   QImage image = reader.read();
   if (image.isNull()) return {{}, FaultOf(reader.error())};
-  return {std::move(image)};
+  const QSize whole_size = size.isValid() ? size : image.size();
+  return {std::move(image), PictureFault::kNone, whole_size};
 }
 
 }  // namespace

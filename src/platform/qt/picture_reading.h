@@ -27,6 +27,7 @@ enum class PictureFault {
 struct DecodedPicture {
   QImage image;  // null on a fault
   PictureFault fault = PictureFault::kNone;
+  QSize whole_size{};  // in the file, before it was scaled down
 };
 
 // Decodes the bytes of a picture file. One that is larger than `most` is scaled down to fit, while

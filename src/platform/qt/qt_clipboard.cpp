@@ -62,6 +62,10 @@ void QtClipboard::Empty() {
   QGuiApplication::clipboard()->clear();
 }
 
+void QtClipboard::PutText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
 void QtClipboard::Forget() {
   begun_ = false;
   refused_ = false;

@@ -38,6 +38,7 @@ class QtClipboard final : public QObject, public Clipboard {
   // Decodes on another thread, for which it waits a fifth of a second at most: kBusy then.
   ClipboardRead ReadPicture() override;
   void Empty() override;
+  void PutText(const std::string& text) override;
 
  private:
   using Decoded = std::shared_ptr<const QtPicture>;  // null: no picture that can be read

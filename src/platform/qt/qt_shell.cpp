@@ -1,6 +1,7 @@
 #include "platform/qt/qt_shell.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -8,6 +9,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "platform/qt/file_manager.h"
 #include "platform/qt/wine.h"
 
 namespace vellumark {
@@ -98,6 +100,13 @@ bool QtShell::Open(const std::string& document, const std::string& parameters,
     if (!log_->open(QIODevice::ReadOnly)) log_.reset();
   }
   return process.startDetached();
+}
+
+bool QtShell::ShowInFolder(const std::string& file) {
+  const QFileInfo info(QString::fromStdString(file));
+  if (file.empty() || !info.dir().exists()) return false;
+  if (info.exists() && SelectInFileManager(info.absoluteFilePath())) return true;
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(info.absolutePath()));
 }
 
 StartedProgram QtShell::LastStarted() {

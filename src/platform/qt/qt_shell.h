@@ -19,6 +19,7 @@ class QtShell final : public Shell {
   // Nothing here can keep a started program from showing a window: `hidden` changes nothing.
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
+  bool ShowInFolder(const std::string& file) override;
   StartedProgram LastStarted() override;
   MissingPart MissingFor(const std::string& document, bool is_32_bit) override;
 

@@ -52,6 +52,19 @@ bool WindowsShell::Open(const std::string& document, const std::string& paramete
   return opened;
 }
 
+// One that is gone has its folder opened.
+bool WindowsShell::ShowInFolder(const std::string& file) {
+  const std::wstring wide = ToWide(file);
+  if (GetFileAttributesW(wide.c_str()) == INVALID_FILE_ATTRIBUTES) {
+    return Open(file.substr(0, file.rfind('\\') + 1), "", "", false);
+  }
+  const std::wstring select = L"/select,\"" + wide + L"\"";
+  const HINSTANCE answer =
+      ShellExecuteW(nullptr, L"open", L"explorer.exe", select.c_str(), nullptr, SW_SHOWNORMAL);
+  constexpr INT_PTR kLastFailure = 32;
+  return reinterpret_cast<INT_PTR>(answer) > kLastFailure;
+}
+
 StartedProgram WindowsShell::LastStarted() {
   StartedProgram started{.last_words = refusal_};
   DWORD code = 0;

@@ -12,6 +12,7 @@ class WindowsShell final : public Shell {
  public:
   bool Open(const std::string& document, const std::string& parameters,
             const std::string& working_folder, bool hidden) override;
+  bool ShowInFolder(const std::string& file) override;
   StartedProgram LastStarted() override;
   MissingPart MissingFor(const std::string& /*document*/, bool /*is_32_bit*/) override {
     return {};
