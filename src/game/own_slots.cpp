@@ -140,6 +140,7 @@ std::vector<Failure> PutOwnSlotsAside(Program& program, const std::string& game_
   play.backup_of = game_folder;
   play.backed_up.clear();
   std::vector<CopyGroup> copies;
+  copies.reserve(slots.size());
   for (const std::string& path : slots) copies.push_back({{path, BackupCopyOf(program, path)}});
   program.files.CopyAllVerified(copies, [](std::size_t) { return true; });
   for (const CopyGroup& copy : copies) {
@@ -280,6 +281,7 @@ std::vector<Failure> CopyBackupHome(Program& program) {
   if (error != FileError::kNone) return {{play.BackupFolder, error}};
   std::vector<Failure> failures;
   std::vector<CopyGroup> copies;
+  copies.reserve(backup.size());
   for (const std::string& path : backup) copies.push_back({{path, HomeOf(program, path)}});
   CopyAllReplacing(program.files, copies, [](std::size_t) { return true; });
   for (const CopyGroup& copy : copies) {
