@@ -4,7 +4,7 @@
 
 namespace vellumark {
 
-QtSoundPlayer::QtSoundPlayer(const QString& program_folder) : program_folder_(program_folder) {}
+QtSoundPlayer::QtSoundPlayer(QString program_folder) : program_folder_(std::move(program_folder)) {}
 
 void QtSoundPlayer::Play(const std::string& host_path) {
   if (!std::exchange(tried_, true)) {

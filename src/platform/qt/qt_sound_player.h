@@ -13,7 +13,7 @@ namespace vellumark {
 class QtSoundPlayer final : public SoundPlayer {
  public:
   // `program_folder` is the executable's, a host path.
-  explicit QtSoundPlayer(const QString& program_folder);
+  explicit QtSoundPlayer(QString program_folder);
 
   void Play(const std::string& host_path) override;
 
