@@ -133,11 +133,12 @@ int main(int argc, char* argv[]) {
                    Qt::QueuedConnection);
 
   const SessionEndWatch session_end({.save = [&program] { SaveForSessionEnd(program); },
-                                     .end = [&program, &window] {
-                                       const bool ends = EndSession(program);
-                                       if (ends) window.Remember();
-                                       return ends;
-                                     }});
+                                     .end =
+                                         [&program, &window] {
+                                           const bool ends = EndSession(program);
+                                           if (ends) window.Remember();
+                                           return ends;
+                                         }});
   // The boxes of the start have the icon too, and the window need not wait for it.
   constexpr auto kIconDelay = std::chrono::milliseconds(100);
   QTimer icon_delay;

@@ -112,8 +112,9 @@ class Copier {
   // brings is in the way of another.
   bool AddToBulk(const SavegameFiles& savegame, int slot) {
     const std::string key = FileKey(savegame.savegame);
-    if (written_.contains(key) || bulk_targets_.contains(key) || handled_.contains(key))
+    if (written_.contains(key) || bulk_targets_.contains(key) || handled_.contains(key)) {
       return false;
+    }
 
     CopyGroup group;
     for (const auto& [from, name] : {std::pair(savegame.savegame, SavegameFileName(slot)),
@@ -126,8 +127,9 @@ class Copier {
         return false;
       }
       const std::string to = InFolder(folder_, name);
-      if (bulk_targets_.contains(FileKey(from)) || bulk_targets_.contains(FileKey(to)))
+      if (bulk_targets_.contains(FileKey(from)) || bulk_targets_.contains(FileKey(to))) {
         return false;
+      }
       if (!there) continue;
       if (files_.Attributes(to).error != FileError::kNotFound) return false;
       group.push_back({from, to});

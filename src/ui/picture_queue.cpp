@@ -16,8 +16,9 @@ constexpr std::int64_t kMostKeptBytes = 24 << 20;
 constexpr std::size_t kMostFileBytes = 32 << 20;
 
 SmallPicture Decoded(const ReadResult& read, QSize most) {
-  if (read.bytes.size() > kMostFileBytes)
+  if (read.bytes.size() > kMostFileBytes) {
     return {.fault = WordsFor(PictureFault::kTooLargeForSmall)};
+  }
   if (read.error == FileError::kNotFound) return {.exists = false};
   if (read.error != FileError::kNone) return {.fault = ReasonFor(read.error)};
   DecodedPicture decoded = DecodeSmallPicture(read.bytes, most);

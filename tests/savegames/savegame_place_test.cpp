@@ -23,8 +23,8 @@ TEST_F(SavegamePlaceTest, OtherProgramsGetThePathsThatTheyTake) {
   windows.selected = {0, 1};
   RefreshDetails(program);
   CopyPaths(program);
-  const std::string first = disk / "Archive/Slot1/savegame.0";
-  EXPECT_EQ(clipboard.text, first + "\n" + (disk / "Archive/Slot1/savegame.2"));
+  const std::string first = files.HostPath("T:\\Archive\\Slot1\\savegame.0");
+  EXPECT_EQ(clipboard.text, first + "\n" + files.HostPath("T:\\Archive\\Slot1\\savegame.2"));
   ShowInFileManager(program);
   EXPECT_EQ(shell.shown, std::vector<std::string>{first});
   EXPECT_TRUE(boxes.shown.empty());

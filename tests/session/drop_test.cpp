@@ -79,7 +79,7 @@ TEST_F(DropTest, WhatCannotBeTakenIsTold) {
 TEST_F(DropTest, AnArchiveIsOpened) {
   disk.Write("Other.vmk", EncodeArchive(testing::WorldSettings()));
   Drop("Other.vmk", 0);
-  EXPECT_EQ(NamedArchive(program), "T:\\Other.vmk");
+  EXPECT_TRUE(NamedArchive(program).ends_with("\\Other.vmk"));
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -50,8 +49,6 @@ class WindowsFileSystem final : public FileSystem {
   FileError Append(const std::string& path, std::string_view bytes) override;
   FileError WriteAt(const std::string& path, std::uint64_t offset, std::string_view bytes) override;
   FileError Copy(const std::string& source, const std::string& target) override;
-  void CopyAllVerified(std::vector<CopyGroup>& groups,
-                       const std::function<bool(std::size_t)>& begin) override;
   FileError Flush(const std::vector<std::string>& paths) override;
   FileError Rename(const std::string& from, const std::string& to, RenameMode mode) override;
   FileError Delete(const std::string& path) override;

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/common/bulk_copy.h"
 #include "platform/common/parallel.h"
 #include "platform/common/temporary_prefix.h"
 #include "platform/windows/disk_names.h"
@@ -18,13 +17,6 @@ namespace vellumark {
 namespace {
 
 constexpr std::size_t kFlushingThreads = 8;
-
-// The name under which NewFile makes a file of this name, but for a temporary one.
-std::string TemporaryNameOf(const std::string& name) {
-  if (name.starts_with(kTemporaryPrefix)) return name;
-  return std::string(kTemporaryPrefix) +
-         name.substr(std::min(kTemporaryPrefix.size(), name.size()));
-}
 
 std::optional<std::uint64_t> SizeOf(const FileHandle& file) {
   LARGE_INTEGER size = {};
@@ -152,29 +144,6 @@ FileError WindowsFileSystem::Copy(const std::string& source, const std::string& 
     SetFileTime(to.handle().get(), nullptr, nullptr, &changed);
   }
   return to.Finish();
-}
-
-// Copying changes nothing in this object, so that threads may do it.
-void WindowsFileSystem::CopyAllVerified(std::vector<CopyGroup>& groups,
-                                        const std::function<bool(std::size_t)>& begin) {
-  CopyOnThreads(*this, groups, begin, [this](const CopyJob& job) -> std::optional<ReadyCopy> {
-    const CheckedPath to = PathToMake(job.target);
-    if (to.error != FileError::kNone || to.path.names.empty()) return std::nullopt;
-    if (Attributes(job.source).error != FileError::kNone) return std::nullopt;
-    if (AttributesOf(to.wide).error != FileError::kNotFound) return std::nullopt;
-    WindowsPath folder = to.path;
-    folder.names.pop_back();
-    const auto identity = Identity(folder.Joined());
-    if (!identity) return std::nullopt;
-    // Two files whose temporary names are the same are made one after the other.
-    const std::string name = TemporaryNameOf(to.path.names.back());
-    return ReadyCopy{
-        .key = std::to_string(identity->device) + '/' + std::to_string(identity->index) + '/' +
-               names_.Fold(name),
-        .copy = [this, job] { return CopyVerified(job.source, job.target); },
-        .made = [] {},
-    };
-  });
 }
 
 // The system keeps a name safe together with the file's contents; a folder has nothing to flush.
