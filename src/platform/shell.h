@@ -39,8 +39,9 @@ class Shell {
   virtual bool Open(const std::string& document, const std::string& parameters,
                     const std::string& working_folder, bool hidden) = 0;
 
-  // Shows a file in the user's file manager, selected where the desktop can do that; else the folder
-  // that it lies in. `file` is a host path. False when the folder is missing or the system refuses.
+  // Shows a file in the user's file manager, selected where the desktop can do that; else the
+  // folder that it lies in. `file` is a host path. False when the folder is missing or the system
+  // refuses.
   virtual bool ShowInFolder(const std::string& file) = 0;
 
   // How the program does that Open was given last. Documents do not count. Does not wait.

@@ -186,8 +186,8 @@ void PrincipaleTest::TheContextMenuHasTheSavegameCommands() {
     place = menu->pos();
     menu->close();
   };
-  const QStringList expected = {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy", "mnu_Move",
-                                "mnu_Delete", "mnu_ShowInFolder", "mnu_CopyPath"};
+  const QStringList expected = {"mnu_Examine", "mnu_PropSavegame", "mnu_Copy",    "mnu_Move",
+                                "mnu_Delete",  "mnu_ShowInFolder", "mnu_CopyPath"};
 
   // Another line by the mouse: it is selected first. Several: they stay selected.
   const QPoint second = PlaceOf(1);

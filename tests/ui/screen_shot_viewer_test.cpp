@@ -107,7 +107,7 @@ void ScreenShotViewerTest::ThePictureZoomsAroundThePointerAndMoves() {
   auto* box = Box(viewer);
   QTRY_COMPARE(box->WholeSize(), QSize(3000, 1500));
   const int y = box->height() / 5;  // beside the buttons
-  const auto border = [box, y] {  // between red and blue
+  const auto border = [box, y] {    // between red and blue
     const QImage seen = box->grab().toImage();
     int x = 0;
     while (x < seen.width() && qBlue(seen.pixel(x, y)) < 128) ++x;
