@@ -15,7 +15,7 @@
 #include "bench_run.h"
 #include "maintenance/copy_move.h"
 #include "maintenance/delete_selected.h"
-#include "measured.h"
+#include "measurement.h"
 #include "scripted_program.h"
 
 namespace {

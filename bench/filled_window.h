@@ -9,7 +9,7 @@
 #include "archive/scan.h"
 #include "bench_run.h"
 #include "frame_clock.h"
-#include "measured.h"
+#include "measurement.h"
 #include "platform/system_services.h"
 #include "program.h"
 #include "support/faulty_file_system.h"

@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "bench_run.h"
-#include "measured.h"
+#include "measurement.h"
 
 namespace vellumark::bench {
 

@@ -10,7 +10,7 @@
 
 #include "bench_run.h"
 #include "desktop/pictures.h"
-#include "measured.h"
+#include "measurement.h"
 #include "platform/qt/picture_reading.h"
 
 namespace {

@@ -9,7 +9,7 @@
 #include "bench_run.h"
 #include "filled_window.h"
 #include "frame_clock.h"
-#include "measured.h"
+#include "measurement.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "bench_run.h"
 #include "filled_window.h"
 #include "frame_clock.h"
-#include "measured.h"
+#include "measurement.h"
 
 int main(int argc, char** argv) {
   using namespace vellumark::bench;

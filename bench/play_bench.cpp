@@ -11,7 +11,7 @@
 
 #include "bench_run.h"
 #include "game/play.h"
-#include "measured.h"
+#include "measurement.h"
 #include "savegames/slot_names.h"
 #include "scripted_program.h"
 

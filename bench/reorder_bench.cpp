@@ -15,7 +15,7 @@
 #include "bench_run.h"
 #include "maintenance/reorder.h"
 #include "maintenance/reorder_plan.h"
-#include "measured.h"
+#include "measurement.h"
 #include "scripted_program.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include "archive/catalogue_builder.h"
 #include "bare_scan.h"
 #include "bench_run.h"
-#include "measured.h"
+#include "measurement.h"
 #include "platform/system_services.h"
 
 namespace {

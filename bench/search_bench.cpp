@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "bench_run.h"
-#include "measured.h"
+#include "measurement.h"
 #include "savegames/search.h"
 #include "scripted_program.h"
 

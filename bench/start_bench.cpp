@@ -7,8 +7,8 @@
 #include <string>
 
 #include "bench_run.h"
-#include "measured.h"
-#include "program_world.h"
+#include "measurement.h"
+#include "program_copies.h"
 #include "watched_program.h"
 
 int main(int argc, char** argv) {

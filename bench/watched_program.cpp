@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "bench_run.h"
-#include "measured.h"
+#include "measurement.h"
 
 namespace vellumark::bench {
 namespace {

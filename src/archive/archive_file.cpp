@@ -3,12 +3,12 @@
 #include <optional>
 
 #include "foundation/file_utilities.h"
+#include "foundation/fixed_size_record.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
-#include "foundation/record.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "program.h"
 
 namespace vellumark {

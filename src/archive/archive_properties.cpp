@@ -4,14 +4,14 @@
 
 #include "archive/subfolder_name.h"
 #include "archive/trusted_programs.h"
+#include "foundation/fixed_size_record.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
-#include "foundation/record.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "platform/file_dialogs.h"
 #include "program.h"
 

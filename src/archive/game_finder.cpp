@@ -9,9 +9,9 @@
 
 #include "archive/steam_libraries.h"
 #include "foundation/file_utilities.h"
+#include "foundation/fixed_size_record.h"
 #include "foundation/messages.h"
 #include "foundation/paths.h"
-#include "foundation/record.h"
 #include "foundation/strings.h"
 #include "platform/file_system.h"
 #include "platform/text.h"

@@ -4,17 +4,17 @@
 
 #include "archive/catalogue_builder.h"
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
-#include "foundation/working.h"
+#include "foundation/windows_interface.h"
+#include "foundation/work_scope.h"
 #include "program.h"
 #include "savegames/details.h"
 #include "savegames/list_line.h"
-#include "savegames/main_window.h"
+#include "savegames/main_window_interface.h"
 
 namespace vellumark {
 namespace {

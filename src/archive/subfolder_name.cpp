@@ -1,10 +1,10 @@
 #include "archive/subfolder_name.h"
 
 #include "foundation/file_utilities.h"
+#include "foundation/fixed_size_record.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
-#include "foundation/record.h"
 #include "foundation/strings.h"
 #include "savegames/catalogue_state.h"
 #include "savegames/slot_names.h"

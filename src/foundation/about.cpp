@@ -1,9 +1,9 @@
 #include "foundation/about.h"
 
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "foundation/version.h"
 #include "program.h"
 

@@ -1,6 +1,6 @@
 #include "foundation/captions.h"
 
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 
 namespace vellumark {
 

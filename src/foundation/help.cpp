@@ -2,10 +2,10 @@
 
 #include "foundation/companion_files.h"
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "program.h"
 
 namespace vellumark {

@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "foundation/failures.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
+#include "foundation/operation_report.h"
 #include "foundation/own_messages.h"
-#include "foundation/report.h"
 #include "foundation/rescue.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "game/backup_label.h"
 #include "program.h"
 #include "savegames/slot_folders.h"

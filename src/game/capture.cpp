@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "game/running_game.h"
 #include "program.h"
 

@@ -4,16 +4,16 @@
 #include <optional>
 
 #include "foundation/file_utilities.h"
+#include "foundation/fixed_size_record.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
-#include "foundation/record.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "platform/file_dialogs.h"
 #include "program.h"
-#include "savegames/shot_folder.h"
+#include "savegames/shot_dialog_folder.h"
 #include "savegames/slot_names.h"
 
 namespace vellumark {

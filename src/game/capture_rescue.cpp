@@ -1,12 +1,12 @@
 #include "game/capture_rescue.h"
 
 #include "foundation/failures.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/rescue.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "game/capture_picture.h"
 #include "program.h"
 #include "savegames/notes.h"

@@ -6,11 +6,11 @@
 
 #include "foundation/failures.h"
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "game/program_kind.h"
+#include "game/executable_kind.h"
 #include "game/running_game.h"
 #include "platform/shell.h"
 #include "platform/text.h"

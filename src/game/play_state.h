@@ -30,7 +30,7 @@ struct PlayState {
   std::string BackupFolder;  // the folder `temp` beside the program
 
   // The catalogue indices of the last play's savegames at that time; entry k went into slot k.
-  // Slots and catalogue may have changed since: ask ExaminedEntry (game/examined.h).
+  // Slots and catalogue may have changed since: ask ExaminedEntry (game/slot_contents.h).
   std::vector<std::int16_t> ExaminedList;
   std::int16_t ExaminedCount() const { return static_cast<std::int16_t>(ExaminedList.size()); }
   std::vector<std::string> examined_paths;  // the savegame files that they came from

@@ -1,12 +1,12 @@
 #include "game/start_question.h"
 
 #include "archive/trusted_programs.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "game/program_kind.h"
+#include "game/executable_kind.h"
 #include "program.h"
 
 namespace vellumark {

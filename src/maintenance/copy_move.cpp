@@ -3,14 +3,14 @@
 #include <bitset>
 
 #include "archive/scan.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
-#include "foundation/working.h"
-#include "game/own_slots.h"
+#include "foundation/windows_interface.h"
+#include "foundation/work_scope.h"
+#include "game/own_slots_in_play.h"
 #include "maintenance/target_savegames.h"
 #include "program.h"
 

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "archive/scan.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
-#include "foundation/talk.h"
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 #include "program.h"
 #include "savegames/file_removal.h"
 #include "savegames/savegame_files.h"

@@ -10,14 +10,14 @@
 
 #include "foundation/failures.h"
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
-#include "foundation/working.h"
+#include "foundation/windows_interface.h"
+#include "foundation/work_scope.h"
 #include "platform/text.h"
 #include "program.h"
 

@@ -3,15 +3,15 @@
 #include <algorithm>
 
 #include "foundation/failures.h"
+#include "foundation/fixed_size_record.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
-#include "foundation/record.h"
 #include "foundation/rescue.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "game/restore.h"
 #include "maintenance/copy_move.h"
 #include "maintenance/export_shots.h"

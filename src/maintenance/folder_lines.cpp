@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "foundation/fixed_size_record.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
-#include "foundation/record.h"
 #include "platform/text.h"
 #include "program.h"
 

@@ -5,7 +5,7 @@
 #include "foundation/file_utilities.h"
 #include "foundation/messages.h"
 #include "foundation/paths.h"
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 #include "program.h"
 #include "savegames/info_file.h"
 #include "savegames/slot_names.h"

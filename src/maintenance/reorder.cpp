@@ -2,14 +2,14 @@
 
 #include "archive/archive_file.h"
 #include "archive/scan.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
+#include "foundation/operation_report.h"
 #include "foundation/own_messages.h"
-#include "foundation/report.h"
 #include "foundation/rescue.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 #include "maintenance/old_archive.h"
 #include "program.h"
 

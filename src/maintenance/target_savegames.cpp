@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/paths.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 #include "program.h"
 #include "savegames/backup_list.h"
 

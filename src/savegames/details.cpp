@@ -4,7 +4,7 @@
 #include "foundation/messages.h"
 #include "foundation/strings.h"
 #include "program.h"
-#include "savegames/main_window.h"
+#include "savegames/main_window_interface.h"
 #include "savegames/notes.h"
 
 namespace vellumark {

@@ -1,9 +1,9 @@
 #include "savegames/notes.h"
 
 #include "foundation/file_utilities.h"
+#include "foundation/fixed_size_record.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
-#include "foundation/record.h"
 #include "foundation/strings.h"
 
 namespace vellumark {

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "platform/clipboard.h"
 #include "platform/file_system.h"
 #include "platform/shell.h"

@@ -6,14 +6,14 @@
 #include <string_view>
 
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "program.h"
 #include "savegames/details.h"
-#include "savegames/main_window.h"
+#include "savegames/main_window_interface.h"
 #include "savegames/notes.h"
 
 namespace vellumark {

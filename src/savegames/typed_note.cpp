@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "platform/text.h"
 #include "program.h"
 #include "savegames/notes.h"

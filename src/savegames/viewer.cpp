@@ -8,7 +8,7 @@
 #include "foundation/sound_effects.h"
 #include "program.h"
 #include "savegames/list_line.h"
-#include "savegames/main_window.h"
+#include "savegames/main_window_interface.h"
 
 namespace vellumark {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "platform/file_system.h"
 #include "program.h"
 #include "savegames/savegame_properties.h"

@@ -2,11 +2,11 @@
 
 #include "archive/scan.h"
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "program.h"
 #include "session/archive_commands.h"
 

@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/preferences_file.h"
-#include "foundation/talk.h"
 #include "game/capture_rescue.h"
-#include "game/own_slots.h"
+#include "game/own_slots_in_play.h"
 #include "program.h"
 #include "session/archive_commands.h"
 

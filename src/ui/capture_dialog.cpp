@@ -17,7 +17,7 @@
 #include "game/capture_slots.h"
 #include "game/running_game.h"
 #include "platform/desktop_services.h"
-#include "platform/qt/opener.h"
+#include "platform/qt/dialog_parent.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"

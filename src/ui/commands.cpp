@@ -3,7 +3,7 @@
 #include "archive/scan.h"
 #include "foundation/about.h"
 #include "foundation/help.h"
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "game/import.h"
 #include "game/play.h"
 #include "game/running_game.h"

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "archive/game_finder.h"
-#include "platform/qt/beside.h"
+#include "platform/qt/background_work.h"
 #include "platform/qt/json_texts.h"
 #include "platform/system_services.h"
 #include "program.h"

@@ -2,14 +2,14 @@
 
 #include <QLineEdit>
 
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/sound_effects.h"
-#include "foundation/talk.h"
-#include "platform/qt/opener.h"
+#include "platform/qt/dialog_parent.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
+#include "ui/available_screen_size.h"
 #include "ui/caption_setter.h"
-#include "ui/screen_room.h"
 
 namespace vellumark {
 

@@ -12,7 +12,7 @@
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "platform/file_system.h"
-#include "platform/qt/beside.h"
+#include "platform/qt/background_work.h"
 #include "platform/qt/picture_reading.h"
 #include "ui/picture_faults.h"
 

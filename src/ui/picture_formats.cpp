@@ -2,7 +2,7 @@
 
 #include <QImageReader>
 
-#include "platform/qt/beside.h"
+#include "platform/qt/background_work.h"
 #include "platform/qt/picture_reading.h"
 
 namespace vellumark {

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "foundation/preferences_choice.h"
+#include "foundation/preferences_commands.h"
 #include "program.h"
 #include "ui/controls.h"
 #include "ui/path_label.h"

@@ -9,8 +9,8 @@
 #include <QTimer>
 #include <map>
 
-#include "foundation/windows.h"
-#include "savegames/main_window.h"
+#include "foundation/windows_interface.h"
+#include "savegames/main_window_interface.h"
 
 class QAbstractButton;
 class QAction;

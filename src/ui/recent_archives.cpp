@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "foundation/failures.h"
+#include "foundation/fixed_size_record.h"
 #include "foundation/paths.h"
-#include "foundation/record.h"
 #include "platform/file_system.h"
 #include "platform/qt/qt_text.h"
 

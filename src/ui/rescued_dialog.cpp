@@ -14,11 +14,11 @@
 
 #include "archive/scan.h"
 #include "foundation/failures.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
 #include "foundation/paths.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "platform/qt/qt_text.h"
 #include "program.h"
 #include "savegames/list_line.h"

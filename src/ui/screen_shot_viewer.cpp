@@ -7,8 +7,8 @@
 #include <QToolButton>
 #include <chrono>
 
+#include "ui/available_screen_size.h"
 #include "ui/controls.h"
-#include "ui/screen_room.h"
 #include "ui/zoom_box.h"
 
 namespace vellumark {

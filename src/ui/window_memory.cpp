@@ -7,7 +7,7 @@
 
 #include "foundation/paths.h"
 #include "platform/file_system.h"
-#include "ui/screen_room.h"
+#include "ui/available_screen_size.h"
 
 namespace vellumark {
 namespace {

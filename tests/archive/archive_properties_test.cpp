@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "foundation/preferences_choice.h"
+#include "foundation/preferences_commands.h"
 #include "support/open_world.h"
 
 namespace vellumark {

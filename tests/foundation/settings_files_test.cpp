@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "archive/archive_file.h"
+#include "foundation/fixed_size_record.h"
 #include "foundation/preferences_file.h"
-#include "foundation/record.h"
 #include "support/test_world.h"
 
 namespace vellumark {

@@ -4,7 +4,7 @@
 
 #include "foundation/messages.h"
 #include "foundation/own_messages.h"
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 #include "game/capture_link.h"
 #include "game/capture_picture.h"
 #include "game/capture_slots.h"

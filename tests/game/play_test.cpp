@@ -6,10 +6,10 @@
 
 #include "archive/archive_file.h"
 #include "archive/scan.h"
-#include "game/examined.h"
-#include "game/program_kind.h"
+#include "game/executable_kind.h"
 #include "game/restore.h"
 #include "game/running_game.h"
+#include "game/slot_contents.h"
 #include "maintenance/copy_move.h"
 #include "savegames/backup_list.h"
 #include "savegames/details.h"

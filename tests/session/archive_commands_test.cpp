@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "archive/archive_file.h"
-#include "archive/validation.h"
+#include "archive/archive_settings_validation.h"
 #include "foundation/preferences_file.h"
 #include "session/session_end.h"
 #include "support/open_world.h"

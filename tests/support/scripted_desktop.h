@@ -11,14 +11,14 @@
 #include <string>
 #include <vector>
 
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "platform/clipboard.h"
 #include "platform/desktop_windows.h"
 #include "platform/file_dialogs.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
 #include "platform/sound_player.h"
-#include "savegames/main_window.h"
+#include "savegames/main_window_interface.h"
 
 namespace vellumark::testing {
 

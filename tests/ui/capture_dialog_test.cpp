@@ -6,7 +6,7 @@
 
 #include "foundation/messages.h"
 #include "game/capture.h"
-#include "platform/qt/opener.h"
+#include "platform/qt/dialog_parent.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "savegames/details.h"

@@ -10,8 +10,8 @@
 #include <QProgressBar>
 
 #include "foundation/version.h"
-#include "foundation/working.h"
-#include "platform/qt/opener.h"
+#include "foundation/work_scope.h"
+#include "platform/qt/dialog_parent.h"
 #include "platform/qt/qt_text.h"
 #include "ui/picture_box.h"
 #include "ui/pictures_view.h"

@@ -8,7 +8,7 @@
 #include <chrono>
 
 #include "platform/desktop_services.h"
-#include "platform/qt/beside.h"
+#include "platform/qt/background_work.h"
 #include "platform/qt/picture_reading.h"
 
 namespace vellumark {

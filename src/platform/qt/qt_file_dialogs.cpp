@@ -4,7 +4,7 @@
 
 #include "platform/file_system.h"
 #include "platform/message_boxes.h"
-#include "platform/qt/opener.h"
+#include "platform/qt/dialog_parent.h"
 #include "platform/qt/qt_text.h"
 
 namespace vellumark {

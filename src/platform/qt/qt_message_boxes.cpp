@@ -7,7 +7,7 @@
 #include <QMessageBox>
 #include <QScreen>
 
-#include "platform/qt/opener.h"
+#include "platform/qt/dialog_parent.h"
 #include "platform/qt/qt_text.h"
 
 namespace vellumark {

@@ -1,6 +1,6 @@
 // Work beside the window's thread.
-#ifndef VELLUMARK_PLATFORM_QT_BESIDE_H_
-#define VELLUMARK_PLATFORM_QT_BESIDE_H_
+#ifndef VELLUMARK_PLATFORM_QT_BACKGROUND_WORK_H_
+#define VELLUMARK_PLATFORM_QT_BACKGROUND_WORK_H_
 
 #include <QCoreApplication>
 #include <QThreadPool>
@@ -34,4 +34,4 @@ Answer WaitPainting(const std::shared_future<Answer>& answer) {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_QT_BESIDE_H_
+#endif  // VELLUMARK_PLATFORM_QT_BACKGROUND_WORK_H_

@@ -1,6 +1,6 @@
 // Which archived savegame a slot of the game holds.
-#ifndef VELLUMARK_GAME_EXAMINED_H_
-#define VELLUMARK_GAME_EXAMINED_H_
+#ifndef VELLUMARK_GAME_SLOT_CONTENTS_H_
+#define VELLUMARK_GAME_SLOT_CONTENTS_H_
 
 #include <optional>
 
@@ -17,4 +17,4 @@ std::optional<int> ExaminedEntry(Program& program, int slot);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_GAME_EXAMINED_H_
+#endif  // VELLUMARK_GAME_SLOT_CONTENTS_H_

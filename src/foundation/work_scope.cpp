@@ -1,8 +1,8 @@
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 
 #include <utility>
 
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "program.h"
 
 namespace vellumark {

@@ -1,6 +1,6 @@
 // The fixed-size, little-endian records in which the program stores its settings.
-#ifndef VELLUMARK_FOUNDATION_RECORD_H_
-#define VELLUMARK_FOUNDATION_RECORD_H_
+#ifndef VELLUMARK_FOUNDATION_FIXED_SIZE_RECORD_H_
+#define VELLUMARK_FOUNDATION_FIXED_SIZE_RECORD_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -66,4 +66,4 @@ std::optional<std::string> KeepBackupOf(FileSystem& files, const std::string& pa
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_RECORD_H_
+#endif  // VELLUMARK_FOUNDATION_FIXED_SIZE_RECORD_H_

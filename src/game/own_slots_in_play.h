@@ -12,8 +12,8 @@
 // - The backup is never written into another folder than the one it was taken from.
 // - What lies in BackupFolder is deleted only when its equal is safe in its own folder. The label
 //   goes when the slots are back, or when the player does not want them back.
-#ifndef VELLUMARK_GAME_OWN_SLOTS_H_
-#define VELLUMARK_GAME_OWN_SLOTS_H_
+#ifndef VELLUMARK_GAME_OWN_SLOTS_IN_PLAY_H_
+#define VELLUMARK_GAME_OWN_SLOTS_IN_PLAY_H_
 
 #include <cstdint>
 #include <string>
@@ -74,4 +74,4 @@ bool AdoptLabelledBackup(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_GAME_OWN_SLOTS_H_
+#endif  // VELLUMARK_GAME_OWN_SLOTS_IN_PLAY_H_

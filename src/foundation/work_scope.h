@@ -1,7 +1,7 @@
 // While an operation works, the timer does nothing and the pointer shows it. It stops where the
 // session ends.
-#ifndef VELLUMARK_FOUNDATION_WORKING_H_
-#define VELLUMARK_FOUNDATION_WORKING_H_
+#ifndef VELLUMARK_FOUNDATION_WORK_SCOPE_H_
+#define VELLUMARK_FOUNDATION_WORK_SCOPE_H_
 
 namespace vellumark {
 
@@ -30,4 +30,4 @@ class WorkScope {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_WORKING_H_
+#endif  // VELLUMARK_FOUNDATION_WORK_SCOPE_H_

@@ -1,6 +1,6 @@
 // Where file dialogs for screen-shots start.
-#ifndef VELLUMARK_SAVEGAMES_SHOT_FOLDER_H_
-#define VELLUMARK_SAVEGAMES_SHOT_FOLDER_H_
+#ifndef VELLUMARK_SAVEGAMES_SHOT_DIALOG_FOLDER_H_
+#define VELLUMARK_SAVEGAMES_SHOT_DIALOG_FOLDER_H_
 
 #include <string>
 
@@ -14,4 +14,4 @@ std::string ShotStartFolder(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_SAVEGAMES_SHOT_FOLDER_H_
+#endif  // VELLUMARK_SAVEGAMES_SHOT_DIALOG_FOLDER_H_

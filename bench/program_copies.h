@@ -1,6 +1,6 @@
 // Copies of the program to run, and the records that make it open an archive.
-#ifndef VELLUMARK_BENCH_PROGRAM_WORLD_H_
-#define VELLUMARK_BENCH_PROGRAM_WORLD_H_
+#ifndef VELLUMARK_BENCH_PROGRAM_COPIES_H_
+#define VELLUMARK_BENCH_PROGRAM_COPIES_H_
 
 #include <filesystem>
 #include <string>
@@ -22,4 +22,4 @@ std::string WriteRecords(const std::filesystem::path& archive, const std::filesy
 
 }  // namespace vellumark::bench
 
-#endif  // VELLUMARK_BENCH_PROGRAM_WORLD_H_
+#endif  // VELLUMARK_BENCH_PROGRAM_COPIES_H_

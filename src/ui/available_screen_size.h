@@ -1,6 +1,6 @@
 // The room that a screen has for windows.
-#ifndef VELLUMARK_UI_SCREEN_ROOM_H_
-#define VELLUMARK_UI_SCREEN_ROOM_H_
+#ifndef VELLUMARK_UI_AVAILABLE_SCREEN_SIZE_H_
+#define VELLUMARK_UI_AVAILABLE_SCREEN_SIZE_H_
 
 #include <QScreen>
 #include <QWidget>
@@ -20,4 +20,4 @@ inline QSize RoomOnScreen(const QWidget& window) {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_UI_SCREEN_ROOM_H_
+#endif  // VELLUMARK_UI_AVAILABLE_SCREEN_SIZE_H_

@@ -1,4 +1,4 @@
-#include "foundation/record.h"
+#include "foundation/fixed_size_record.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "foundation/talk.h"
+#include "foundation/message_box_talk.h"
 
-#include "foundation/working.h"
+#include "foundation/work_scope.h"
 #include "program.h"
 
 namespace vellumark {

@@ -1,4 +1,4 @@
-#include "game/program_kind.h"
+#include "game/executable_kind.h"
 
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-#include "game/own_slots.h"
+#include "game/own_slots_in_play.h"
 
 #include <algorithm>
 #include <map>

@@ -1,8 +1,8 @@
-#include "foundation/preferences_choice.h"
+#include "foundation/preferences_commands.h"
 
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/windows.h"
+#include "foundation/windows_interface.h"
 #include "program.h"
 
 namespace vellumark {

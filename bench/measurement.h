@@ -1,6 +1,6 @@
 // Timing two things against each other, and the line of the table that comes of it.
-#ifndef VELLUMARK_BENCH_MEASURED_H_
-#define VELLUMARK_BENCH_MEASURED_H_
+#ifndef VELLUMARK_BENCH_MEASUREMENT_H_
+#define VELLUMARK_BENCH_MEASUREMENT_H_
 
 #include <functional>
 #include <string>
@@ -32,4 +32,4 @@ std::string Rounded(double number, int digits);
 
 }  // namespace vellumark::bench
 
-#endif  // VELLUMARK_BENCH_MEASURED_H_
+#endif  // VELLUMARK_BENCH_MEASUREMENT_H_

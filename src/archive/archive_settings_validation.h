@@ -1,6 +1,6 @@
 // Whether the archive settings are complete enough to play.
-#ifndef VELLUMARK_ARCHIVE_VALIDATION_H_
-#define VELLUMARK_ARCHIVE_VALIDATION_H_
+#ifndef VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_VALIDATION_H_
+#define VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_VALIDATION_H_
 
 namespace vellumark {
 
@@ -11,4 +11,4 @@ bool ValidateArchiveSettings(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_ARCHIVE_VALIDATION_H_
+#endif  // VELLUMARK_ARCHIVE_ARCHIVE_SETTINGS_VALIDATION_H_

@@ -1,6 +1,6 @@
 // What the preferences dialog shows and what its buttons do.
-#ifndef VELLUMARK_FOUNDATION_PREFERENCES_CHOICE_H_
-#define VELLUMARK_FOUNDATION_PREFERENCES_CHOICE_H_
+#ifndef VELLUMARK_FOUNDATION_PREFERENCES_COMMANDS_H_
+#define VELLUMARK_FOUNDATION_PREFERENCES_COMMANDS_H_
 
 namespace vellumark {
 
@@ -23,4 +23,4 @@ void ChooseShotFolder(Program& program);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_PREFERENCES_CHOICE_H_
+#endif  // VELLUMARK_FOUNDATION_PREFERENCES_COMMANDS_H_

@@ -1,6 +1,6 @@
-#include "foundation/report.h"
+#include "foundation/operation_report.h"
 
-#include "foundation/talk.h"
+#include "foundation/message_box_talk.h"
 
 namespace vellumark {
 

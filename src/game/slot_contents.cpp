@@ -1,4 +1,4 @@
-#include "game/examined.h"
+#include "game/slot_contents.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "savegames/shot_folder.h"
+#include "savegames/shot_dialog_folder.h"
 
 #include "foundation/file_utilities.h"
 #include "foundation/paths.h"

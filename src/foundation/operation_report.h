@@ -1,6 +1,6 @@
 // What an operation has to tell, gathered for one message at its end.
-#ifndef VELLUMARK_FOUNDATION_REPORT_H_
-#define VELLUMARK_FOUNDATION_REPORT_H_
+#ifndef VELLUMARK_FOUNDATION_OPERATION_REPORT_H_
+#define VELLUMARK_FOUNDATION_OPERATION_REPORT_H_
 
 #include <string>
 
@@ -25,4 +25,4 @@ class Report {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_REPORT_H_
+#endif  // VELLUMARK_FOUNDATION_OPERATION_REPORT_H_

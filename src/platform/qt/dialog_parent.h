@@ -1,6 +1,6 @@
 // The window that a dialog opens over.
-#ifndef VELLUMARK_PLATFORM_QT_OPENER_H_
-#define VELLUMARK_PLATFORM_QT_OPENER_H_
+#ifndef VELLUMARK_PLATFORM_QT_DIALOG_PARENT_H_
+#define VELLUMARK_PLATFORM_QT_DIALOG_PARENT_H_
 
 #include <QPointer>
 #include <QWidget>
@@ -25,4 +25,4 @@ class AskingScope {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_PLATFORM_QT_OPENER_H_
+#endif  // VELLUMARK_PLATFORM_QT_DIALOG_PARENT_H_

@@ -1,6 +1,6 @@
 // The main window as the core sees it: a list of finished lines, a few fields, a picture.
-#ifndef VELLUMARK_SAVEGAMES_MAIN_WINDOW_H_
-#define VELLUMARK_SAVEGAMES_MAIN_WINDOW_H_
+#ifndef VELLUMARK_SAVEGAMES_MAIN_WINDOW_INTERFACE_H_
+#define VELLUMARK_SAVEGAMES_MAIN_WINDOW_INTERFACE_H_
 
 #include <string>
 #include <vector>
@@ -45,4 +45,4 @@ class MainWindow {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_SAVEGAMES_MAIN_WINDOW_H_
+#endif  // VELLUMARK_SAVEGAMES_MAIN_WINDOW_INTERFACE_H_

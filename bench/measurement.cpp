@@ -1,4 +1,4 @@
-#include "measured.h"
+#include "measurement.h"
 
 #include <algorithm>
 #include <array>

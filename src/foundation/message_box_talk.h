@@ -1,6 +1,6 @@
 // Message boxes as the core uses them. None is shown once the session ends (IsEnding).
-#ifndef VELLUMARK_FOUNDATION_TALK_H_
-#define VELLUMARK_FOUNDATION_TALK_H_
+#ifndef VELLUMARK_FOUNDATION_MESSAGE_BOX_TALK_H_
+#define VELLUMARK_FOUNDATION_MESSAGE_BOX_TALK_H_
 
 #include <string>
 #include <vector>
@@ -37,4 +37,4 @@ bool AskOkCancel(Program& program, const std::string& text, BoxIcon icon = BoxIc
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_TALK_H_
+#endif  // VELLUMARK_FOUNDATION_MESSAGE_BOX_TALK_H_

@@ -1,10 +1,10 @@
-#include "archive/validation.h"
+#include "archive/archive_settings_validation.h"
 
 #include "foundation/file_utilities.h"
+#include "foundation/message_box_talk.h"
 #include "foundation/messages.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
-#include "foundation/talk.h"
 #include "program.h"
 
 namespace vellumark {

@@ -1,6 +1,6 @@
 // What the core asks of the windows as a whole.
-#ifndef VELLUMARK_FOUNDATION_WINDOWS_H_
-#define VELLUMARK_FOUNDATION_WINDOWS_H_
+#ifndef VELLUMARK_FOUNDATION_WINDOWS_INTERFACE_H_
+#define VELLUMARK_FOUNDATION_WINDOWS_INTERFACE_H_
 
 #include "foundation/caption_map.h"
 
@@ -39,4 +39,4 @@ class Windows {
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_FOUNDATION_WINDOWS_H_
+#endif  // VELLUMARK_FOUNDATION_WINDOWS_INTERFACE_H_

@@ -1,6 +1,6 @@
 // What a program file is, told by its header before it is started.
-#ifndef VELLUMARK_GAME_PROGRAM_KIND_H_
-#define VELLUMARK_GAME_PROGRAM_KIND_H_
+#ifndef VELLUMARK_GAME_EXECUTABLE_KIND_H_
+#define VELLUMARK_GAME_EXECUTABLE_KIND_H_
 
 #include <string>
 #include <string_view>
@@ -25,4 +25,4 @@ ProgramKind ReadProgramKind(FileSystem& files, const std::string& path);
 
 }  // namespace vellumark
 
-#endif  // VELLUMARK_GAME_PROGRAM_KIND_H_
+#endif  // VELLUMARK_GAME_EXECUTABLE_KIND_H_

@@ -1,12 +1,12 @@
-#include "program_world.h"
+#include "program_copies.h"
 
 #include <fstream>
 
 #include "archive/archive_file.h"
 #include "bench_run.h"
+#include "foundation/fixed_size_record.h"
 #include "foundation/preferences_file.h"
 #include "foundation/preferences_state.h"
-#include "foundation/record.h"
 #include "platform/system_services.h"
 
 namespace vellumark::bench {

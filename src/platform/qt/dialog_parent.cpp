@@ -1,4 +1,4 @@
-#include "platform/qt/opener.h"
+#include "platform/qt/dialog_parent.h"
 
 #include <QApplication>
 #include <QMainWindow>
