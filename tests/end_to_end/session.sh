@@ -68,6 +68,13 @@ expect_names() {
   [ "$found" = "$expected" ] || fail "$folder holds: $found"
 }
 
+# Sets X, Y, WIDTH and HEIGHT to the place of a window's inside. (`xdotool` adds the frame to it after
+# a move.)
+measure_window() {
+  eval "$(xwininfo -id "$1" | sed -nE 's/.*Absolute upper-left ([XY]): +(-?[0-9]+)/\1=\2/p
+    s/^ +Width: ([0-9]+)/WIDTH=\1/p; s/^ +Height: ([0-9]+)/HEIGHT=\1/p')"
+}
+
 # Presses keys in the window with this title, which must come up and get the focus.
 press_in() {
   local window

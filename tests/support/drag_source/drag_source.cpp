@@ -5,7 +5,9 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QUrl>
+#include <chrono>
 #include <cstdio>
 
 namespace {
@@ -30,7 +32,9 @@ class DragSource final : public QLabel {
                         : action == Qt::IgnoreAction ? "refused"
                                                      : "moved");
     std::fflush(stdout);
-    QApplication::quit();
+    // The target may take the content only after the button was released.
+    constexpr auto kTargetsTime = std::chrono::seconds(2);
+    QTimer::singleShot(kTargetsTime, qApp, &QApplication::quit);
   }
 
  private:
