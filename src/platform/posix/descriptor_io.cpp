@@ -13,6 +13,9 @@ namespace {
 
 using Block = std::array<char, std::size_t{64} * 1024>;
 
+// A size that a file only claims costs no memory.
+constexpr std::size_t kMostReserved = std::size_t{1024} * 1024;
+
 ssize_t ReadOnce(int file, char* to, std::size_t size) {
   ssize_t count = 0;
   do {
@@ -50,8 +53,9 @@ int Descriptor::Close() {
   return result == 0 || errno == EINTR ? 0 : errno;
 }
 
-ReadResult ReadUpTo(int file, std::size_t limit, FileEnd end) {
+ReadResult ReadUpTo(int file, std::size_t limit, FileEnd end, std::size_t expected) {
   ReadResult result;
+  result.bytes.reserve(std::min({limit, expected, kMostReserved}));
   Block block;
   while (result.bytes.size() < limit) {
     const std::size_t wanted = std::min(limit - result.bytes.size(), block.size());

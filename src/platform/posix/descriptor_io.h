@@ -36,8 +36,9 @@ enum class FileEnd {
   kEmptyRead,  // where nothing may be missed: read on until nothing comes
 };
 
-// The next `limit` bytes, fewer at the end of the file.
-ReadResult ReadUpTo(int file, std::size_t limit, FileEnd end);
+// The next `limit` bytes, fewer at the end of the file. Room is made at once for as many as are
+// `expected`.
+ReadResult ReadUpTo(int file, std::size_t limit, FileEnd end, std::size_t expected = 0);
 
 // Writes all bytes at the file's position; the number of the failure, or 0. `written` counts what
 // was written in either case.

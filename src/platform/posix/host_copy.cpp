@@ -8,7 +8,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstddef>
 
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/file_error.h"
@@ -17,26 +16,11 @@
 namespace vellumark {
 namespace {
 
-constexpr std::size_t kSmallFile = std::size_t{512} * 1024;
-
-// Fills an empty file and reads it back. A small one is compared with the bytes that were written,
-// which spares reading the source twice.
+// Fills an empty file and reads it back.
 FileError CopyAndCompare(int from, int to) {
-  const ReadResult begin = ReadUpTo(from, kSmallFile, FileEnd::kEmptyRead);
-  if (begin.error != FileError::kNone) return begin.error;
-  std::size_t written = 0;
-  int failure = WriteAll(to, begin.bytes, &written);
-  if (begin.bytes.size() == kSmallFile) {
-    if (failure == 0) failure = CopyAll(from, to);
-    if (failure == 0) failure = CompareAll(from, to);
-    return FileErrorFromNumber(failure);
-  }
-  if (failure == 0 && lseek(to, 0, SEEK_SET) < 0) failure = errno;
-  if (failure != 0) return FileErrorFromNumber(failure);
-
-  const ReadResult back = ReadUpTo(to, kSmallFile, FileEnd::kEmptyRead);
-  if (back.error != FileError::kNone) return back.error;
-  return back.bytes == begin.bytes ? FileError::kNone : FileError::kInputOutput;
+  int failure = CopyAll(from, to);
+  if (failure == 0) failure = CompareAll(from, to);
+  return FileErrorFromNumber(failure);
 }
 
 FileError FillCopy(int from, int to, ReadBack read_back) {

@@ -143,7 +143,8 @@ ReadResult PosixFileSystem::Read(const std::string& path, std::size_t limit) {
 
   const Descriptor file(open(found.host.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
   if (!file.IsOpen()) return {FileErrorFromNumber(errno), {}};
-  return ReadUpTo(file.number(), limit, FileEnd::kEmptyRead);
+  return ReadUpTo(file.number(), limit, FileEnd::kEmptyRead,
+                  static_cast<std::size_t>(found.status.st_size));
 }
 
 bool PosixFileSystem::SameContent(const std::string& a, const std::string& b) {
