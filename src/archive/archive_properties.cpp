@@ -9,6 +9,7 @@
 #include "foundation/messages.h"
 #include "foundation/number_reading.h"
 #include "foundation/own_messages.h"
+#include "foundation/paths.h"
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "foundation/windows_interface.h"
@@ -85,12 +86,14 @@ bool AcceptArchiveProperties(Program& program, const ArchivePropertiesFields& fi
   if (!problem.empty()) return Refuse(program, problem);
 
   ArchiveSettings& settings = program.archive.settings;
+  // Leaving the program of somebody else's archive as it is does not choose it.
+  const bool chosen = !SamePath(program.text, fields.executable, Trimmed(settings.GameExecutable));
+  if (chosen) TrustProgram(program, fields.executable);
   settings.MainFolder = fields.main_folder;
   settings.SubfolderBaseName = base_name;
   settings.MaxSavegame = *max_savegame;
   settings.GameFolder = fields.game_folder;
   settings.GameExecutable = fields.executable;
-  TrustProgram(program, fields.executable);
   program.archive.ArchiveChanged = true;
   program.archive.ArchivePropertiesOk = true;
   return true;

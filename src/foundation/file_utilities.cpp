@@ -92,15 +92,16 @@ void CopyAllReplacing(FileSystem& files, std::vector<CopyGroup>& groups,
     });
     if (is_free) free[i] = groups[i];
   }
-  std::size_t begun = 0;
-  files.CopyAllVerified(free, [&](std::size_t i) {
-    const bool goes_on = begin(i);
-    begun += goes_on ? 1 : 0;
-    return goes_on;
-  });
+  bool stopped = false;
+  const auto goes_on = [&](std::size_t i) {
+    stopped = stopped || !begin(i);
+    return !stopped;
+  };
+  files.CopyAllVerified(free, [&](std::size_t i) { return free[i].empty() || goes_on(i); });
   for (std::size_t i = 0; i < groups.size(); ++i) {
+    if (free[i].empty()) goes_on(i);
     CopyInOrder(groups[i], [&](std::size_t number, const CopyJob& job) {
-      if (i >= begun) return FileError::kStopped;
+      if (free[i].empty() && stopped) return FileError::kStopped;
       const bool taken = free[i].empty() || free[i][number].error == FileError::kAlreadyExists;
       if (!taken) return free[i][number].error;
       FileError error = FileError::kNone;

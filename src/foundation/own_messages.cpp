@@ -177,6 +177,7 @@ constexpr TableMessage kOwnMessages[] = {
     {kPictureFaultNone, "it is no picture"},
     {kPictureFaultDamaged, "its file is damaged"},
     {kPictureFaultTooLarge, "it is larger than 32,767 pixels a side or 1 GB in memory"},
+    {kPictureFileTooLarge, "the file is larger than 256 MB"},
     {kPictureFaultLargeForSmall, "it is too large to be shown among the others"},
     {kPictureFaultNotCredible, "its file is too short for the size that it claims to have"},
     {kPicturesFilter, "|Pictures|~1"},

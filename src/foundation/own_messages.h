@@ -107,6 +107,7 @@ enum OwnMessage : int {
   kPictureFaultNone,           // reason
   kPictureFaultDamaged,        // reason
   kPictureFaultTooLarge,       // reason
+  kPictureFileTooLarge,        // reason
   kPictureFaultLargeForSmall,  // reason
   kPictureFaultNotCredible,    // reason
   kPicturesFilter,             // ~1 patterns

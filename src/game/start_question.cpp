@@ -7,11 +7,15 @@
 #include "foundation/sound_effects.h"
 #include "foundation/strings.h"
 #include "game/executable_kind.h"
+#include "platform/file_system.h"
 #include "program.h"
 
 namespace vellumark {
 
-bool MayStartProgram(Program& program, const std::string& executable) {
+bool MayStartProgram(Program& program, const std::string& path) {
+  // A path that leads on from the current folder is another program in each.
+  const auto whole = program.files.FromHostPath(program.files.HostPath(path));
+  const std::string executable = whole && !whole->empty() ? *whole : path;
   if (IsTrustedProgram(program, executable)) return true;
 
   const std::string archive = Trimmed(program.preferences.LastArchive);

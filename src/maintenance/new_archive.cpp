@@ -165,6 +165,7 @@ void NewArchive::TakeResult(std::size_t index, const CopyGroup& group) {
       made_[static_cast<std::size_t>(fate.folder) - 1].push_back(name);
       continue;
     }
+    if (job.error == FileError::kStopped) return;
     const std::string shown = InFolder(Folder(fate.folder), name);
     not_copied.push_back(FailureOfCopy(program_.files, job.source, shown, job.error));
     if (&job == &group[0]) return;

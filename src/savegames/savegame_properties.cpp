@@ -65,7 +65,12 @@ bool ReplaceScreenShot(Program& program, const std::string& shot, const std::str
 bool LinkScreenShot(Program& program, int index, const std::string& chosen,
                     const PictureFormats& formats) {
   const std::string shot = EntryAt(program, index).ShotPath;
-  const ReadResult read = program.files.Read(chosen, FileSystem::kWholeFile);
+  const ReadResult read = program.files.Read(chosen, kMostPictureBytes + 1);
+  if (read.bytes.size() > kMostPictureBytes) {
+    Tell(program, LoadMessage(165, {chosen}) + shot + ": " + LoadMessage(kPictureFileTooLarge),
+         BoxIcon::kCritical);
+    return false;
+  }
   const auto picture = ScreenShotFrom(program, read, chosen, formats);
   if (!picture) return false;
   // A picture that stays as it is is copied, with what the disk knows of it beside its bytes.

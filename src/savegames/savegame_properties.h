@@ -34,6 +34,9 @@ SavegameProperties PrepareSavegameProperties(Program& program);
 // The path of a savegame's screen-shot; empty when the file does not exist.
 std::string LinkedShot(Program& program, int index);
 
+// A larger file is taken for no picture.
+inline constexpr std::size_t kMostPictureBytes = std::size_t{256} << 20;
+
 // The pictures that can be shown.
 struct PictureFormats {
   std::string patterns;  // of the names of their files: "*.jpg;*.png"

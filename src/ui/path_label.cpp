@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "ui/plain_tip.h"
+
 namespace vellumark {
 
 PathLabel::PathLabel(const char* name, QWidget* parent) : QLabel(parent) {
@@ -14,7 +16,7 @@ PathLabel::PathLabel(const char* name, QWidget* parent) : QLabel(parent) {
 
 void PathLabel::SetPath(const QString& path) {
   setText(path);
-  setToolTip(Qt::mightBeRichText(path) ? path.toHtmlEscaped() : path);
+  setToolTip(PlainTip(path));
 }
 
 QSize PathLabel::minimumSizeHint() const { return {120, QLabel::minimumSizeHint().height()}; }

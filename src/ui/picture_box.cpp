@@ -14,6 +14,7 @@
 #include "platform/file_system.h"
 #include "platform/qt/background_work.h"
 #include "platform/qt/picture_reading.h"
+#include "savegames/savegame_properties.h"
 #include "ui/picture_faults.h"
 
 namespace vellumark {
@@ -58,7 +59,10 @@ void PictureBox::LoadWhole() {
 void PictureBox::Load(QSize most) {
   const int number = ++*asked_;
   if (path_.empty()) return;
-  ReadResult read = files_.Read(path_, FileSystem::kWholeFile);
+  ReadResult read = files_.Read(path_, kMostPictureBytes + 1);
+  if (read.bytes.size() > kMostPictureBytes) {
+    return picture_.isNull() ? ShowWords(NotShown(LoadMessage(kPictureFileTooLarge))) : void();
+  }
   if (read.error != FileError::kNone) {
     return picture_.isNull() ? ShowWords(NotShown(ReasonFor(read.error))) : void();
   }

@@ -115,12 +115,13 @@ void PictureQueue::Begin(const std::string& path) {
 void PictureQueue::Take(const std::string& path, const Kept& arrived) {
   in_work_.erase(path);
   if (arrived.begun > forgotten_) {
-    std::erase(waiting_, path);
+    // What has scrolled away while it was read is the first to go, and not read anew.
+    const bool wanted = std::erase(waiting_, path) > 0 || arrived.begun > asked_;
     Kept& kept = kept_[path];
     kept_bytes_ += arrived.picture.image.sizeInBytes() - kept.picture.image.sizeInBytes();
     kept = arrived;
-    kept.wanted = now_;
-    if (!IsCurrent(path)) waiting_.push_front(path);
+    if (wanted) kept.wanted = now_;
+    if (wanted && !IsCurrent(path)) waiting_.push_front(path);
     MakeRoom();
   }
   BeginMore();

@@ -348,6 +348,7 @@ void Principale::BuildPage() {
 }
 
 void Principale::RefreshPage() {
+  if (program_->working) return;  // what has been found so far is not what there is
   const auto page = DescribeFirstPage(*program_);
   if (page) page_->Describe(*page);
   views_->ShowInstead(page ? page_ : nullptr);

@@ -7,6 +7,7 @@
 #include "foundation/paths.h"
 #include "platform/file_system.h"
 #include "platform/qt/qt_text.h"
+#include "ui/plain_tip.h"
 
 namespace vellumark {
 namespace {
@@ -60,8 +61,9 @@ void RecentArchives::Fill() {
     QAction* action = addAction(QStringLiteral("&%1  %2").arg(++number).arg(shown));
     const QString reason = ReasonAgainst(path);
     action->setEnabled(reason.isEmpty());
-    action->setToolTip(reason.isEmpty() ? whole : whole + QLatin1String(": ") + reason);
-    action->setStatusTip(action->toolTip());
+    const QString tip = reason.isEmpty() ? whole : whole + QLatin1String(": ") + reason;
+    action->setToolTip(PlainTip(tip));
+    action->setStatusTip(tip);
     connect(action, &QAction::triggered, this, [this, path] { emit Chosen(path); });
   }
 }

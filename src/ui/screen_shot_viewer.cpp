@@ -9,6 +9,7 @@
 
 #include "ui/available_screen_size.h"
 #include "ui/controls.h"
+#include "ui/plain_tip.h"
 #include "ui/zoom_box.h"
 
 namespace vellumark {
@@ -143,7 +144,7 @@ void ScreenShotViewer::PlaceParts() {
   line_->setVisible(ShowsLine());
   line_->setGeometry(kMargin, picture.height(), width() - 2 * kMargin, LineHeight());
   line_->setText(line_->fontMetrics().elidedText(whole_line_, Qt::ElideRight, line_->width()));
-  line_->setToolTip(line_->text() == whole_line_ ? QString() : whole_line_);
+  line_->setToolTip(line_->text() == whole_line_ ? QString() : PlainTip(whole_line_));
   const int top = (picture.height() - previous_->height()) / 2;
   previous_->move(kMargin, top);
   next_->move(picture.width() - next_->width() - kMargin, top);

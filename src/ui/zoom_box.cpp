@@ -127,8 +127,8 @@ void ZoomBox::wheelEvent(QWheelEvent* event) {
 }
 
 void ZoomBox::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || IsFitted()) return PictureBox::mousePressEvent(event);
   dragged_from_ = event->position();
+  if (event->button() != Qt::LeftButton || IsFitted()) return PictureBox::mousePressEvent(event);
   if (cursor().shape() == Qt::OpenHandCursor) setCursor(Qt::ClosedHandCursor);
 }
 

@@ -94,6 +94,24 @@ TEST_F(StartQuestionTest, AProgramChosenInThePropertiesIsNotAskedAbout) {
   EXPECT_EQ(shell.opened.size(), 1U);
 }
 
+TEST_F(StartQuestionTest, ThePropertiesOfAnArchiveDoNotChooseTheProgramThatItCameWith) {
+  ArchivePropertiesFields fields = PrepareArchiveProperties(program);
+  fields.base_name = "Folder";
+  EXPECT_TRUE(AcceptArchiveProperties(program, fields));
+  EXPECT_NE(Start(), "");
+}
+
+TEST_F(StartQuestionTest, APathThatLeadsOnFromTheCurrentFolderIsAnotherProgramInEach) {
+  for (const std::string folder : {"Evil", "Game"}) {
+    disk.Write(folder + "/tomb4.exe", "a program");
+    files.SetCurrentFolder("T:\\" + folder);
+    program.archive.settings.GameExecutable = "tomb4.exe";
+    boxes.answers = {BoxAnswer::kYes};
+    EXPECT_NE(Start().find("\"T:\\" + folder + "\\tomb4.exe\""), std::string::npos);
+    EXPECT_EQ(Start(), "");
+  }
+}
+
 TEST_F(StartQuestionTest, AScriptIsToldFromAWindowsProgram) {
   disk.Write("Game/tomb4.exe", "#!/bin/sh\nrm -rf ~\n");
   EXPECT_NE(Start().find("not a Windows program"), std::string::npos);

@@ -92,6 +92,21 @@ TEST_F(ExportShotsTest, AScreenShotThatCannotBeLookedUpIsNamed) {
   EXPECT_TRUE(disk.Exists("Shots/Tower_3.jpg"));
 }
 
+TEST_F(ExportShotsTest, StopsAlsoWhereScreenShotsAreReplaced) {
+  for (int slot = 0; slot < 3; ++slot) {
+    Add("Archive/Slot1", slot, "Tower", static_cast<std::int16_t>(slot));
+  }
+  Export();
+  for (int slot = 0; slot < 3; ++slot) {
+    disk.Write("Shots/Tower_" + std::to_string(slot) + ".jpg", "old");
+  }
+  windows.ends_after_painting = windows.painted_busy + 2;
+  Export();
+  EXPECT_EQ(disk.Read("Shots/Tower_0.jpg"), "Archive/Slot1 0");
+  EXPECT_EQ(disk.Read("Shots/Tower_1.jpg"), "old");
+  EXPECT_EQ(disk.Read("Shots/Tower_2.jpg"), "old");
+}
+
 TEST_F(ExportShotsTest, TheChooserExportsIntoItsFolderAndKeepsItForTheNextTime) {
   Add("Archive/Slot1", 0, "Tower", 3);
   Rescan();

@@ -104,6 +104,15 @@ void PictureQueueTest::ReadsInTheOrderAskedForAndDropsWhatIsAskedForNoMore() {
   QCOMPARE(world_->files.calls(), begun + 3);
   queue_->Ask({Path(0)}, 2 * kMost);
   QTRY_COMPARE(queue_->Find(Path(0))->image.size(), 2 * kMost);
+
+  // What went out of sight while it was read is not read in the new size.
+  queue_->Forget();
+  queue_->Ask(paths, kMost);
+  const int begun_again = world_->files.calls();
+  queue_->Ask({Path(0)}, 3 * kMost);
+  QTRY_VERIFY(queue_->Find(Path(0)) != nullptr);
+  QTest::qWait(20);
+  QCOMPARE(world_->files.calls(), begun_again + 1);
 }
 
 void PictureQueueTest::ReadsAChangedFileAnew() {
@@ -136,12 +145,14 @@ void PictureQueueTest::TellsWhyThereIsNoPicture() {
   Write(1, "no picture at all");
   Write(2, Jpeg(Qt::red).substr(0, 100));
   world_->files.FailAlways("Read", "shot3.jpg", FileError::kAccessDenied);
-  queue_->Ask({Path(1), Path(2), Path(3), Path(77), Path(4)}, kMost);
+  Write(5, "P6 1 1 255\nrgb");  // of a format that is not taken
+  queue_->Ask({Path(1), Path(2), Path(3), Path(77), Path(4), Path(5)}, kMost);
   QCOMPARE(Wait(1)->fault, std::string("it is no picture"));
   QVERIFY(Wait(2)->image.isNull() && !Wait(2)->fault.empty());
   QCOMPARE(Wait(3)->fault, std::string("it is read-only, or access is denied"));
   QVERIFY(!Wait(77)->exists && Wait(77)->fault.empty());
   QVERIFY2(IsRed(4), "the others are shown");
+  QCOMPARE(Wait(5)->fault, std::string("it is no picture"));
 }
 
 void PictureQueueTest::DecodesNoSizeThatTheFileHasNotTheBytesFor() {

@@ -98,6 +98,11 @@ void ScreenShotViewerTest::TheLineBelowCanBeHidden() {
   viewer->close();
   QTRY_COMPARE(window_->findChildren<ScreenShotViewer*>().size(), 0);
   QVERIFY2(!Viewer()->ShowsLine(), "it stays hidden");
+
+  program_->catalogue.entries[0].NoteText = "<b>a</b> note " + std::string(500, 'x');
+  QTest::keyClick(Viewer(), Qt::Key_L);
+  const QString tip = Find<QLabel>(Viewer(), "Label_Line")->toolTip();
+  QVERIFY2(tip.contains(QLatin1String("&lt;b&gt;a")), "a note is never taken for mark-up");
 }
 
 void ScreenShotViewerTest::ThePictureZoomsAroundThePointerAndMoves() {

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
+#include <QSemaphore>
 
 namespace vellumark {
 namespace {
@@ -44,6 +45,9 @@ DecodedPicture Decode(std::string_view bytes, QSize most, const Check& check) {
   QBuffer buffer(&content);
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer);
+  // Readers of other formats may unpack much before they know a size.
+  static const QList<QByteArray> known = {"jpeg", "jpg", "png", "bmp", "webp"};
+  if (!known.contains(reader.format())) return {{}, PictureFault::kNotAPicture};
   const QSize size = reader.size();
   if (size.isValid()) {
     const PictureFault fault = check(size);
@@ -65,8 +69,11 @@ DecodedPicture DecodePicture(std::string_view bytes, QSize most) {
 }
 
 DecodedPicture DecodeSmallPicture(std::string_view bytes, QSize most) {
-  const auto fault_of = [&bytes](QSize size) {
-    constexpr std::int64_t kMostSmallMegabytes = 128;
+  constexpr int kMostSmallMegabytes = 128;
+  // Large pictures are decoded one after the other, however many threads ask.
+  static QSemaphore megabytes(kMostSmallMegabytes);
+  QSemaphoreReleaser release;
+  const auto fault_of = [&](QSize size) {
     constexpr std::int64_t kAlwaysTaken = 1 << 20;
     // A picture of a single colour: no format that is common for screen-shots says more with a
     // byte.
@@ -78,6 +85,9 @@ DecodedPicture DecodeSmallPicture(std::string_view bytes, QSize most) {
     if (pixels > kAlwaysTaken && pixels / kMostPixelsInByte > std::int64_t(bytes.size())) {
       return PictureFault::kNotCredible;
     }
+    const auto needed = static_cast<int>(kBytesInPixel * pixels / kMegabyte);
+    megabytes.acquire(needed);
+    release = QSemaphoreReleaser(megabytes, needed);
     return FaultOfSize(size);
   };
   return Decode(bytes, most, fault_of);

@@ -58,9 +58,13 @@ bool WindowsShell::ShowInFolder(const std::string& file) {
   if (GetFileAttributesW(wide.c_str()) == INVALID_FILE_ATTRIBUTES) {
     return Open(file.substr(0, file.rfind('\\') + 1), "", "", false);
   }
+  // Named whole: the current folder may hold another program of this name.
+  std::wstring explorer(MAX_PATH, L'\0');
+  explorer.resize(GetWindowsDirectoryW(explorer.data(), MAX_PATH));
+  explorer += L"\\explorer.exe";
   const std::wstring select = L"/select,\"" + wide + L"\"";
   const HINSTANCE answer =
-      ShellExecuteW(nullptr, L"open", L"explorer.exe", select.c_str(), nullptr, SW_SHOWNORMAL);
+      ShellExecuteW(nullptr, L"open", explorer.c_str(), select.c_str(), nullptr, SW_SHOWNORMAL);
   constexpr INT_PTR kLastFailure = 32;
   return reinterpret_cast<INT_PTR>(answer) > kLastFailure;
 }
