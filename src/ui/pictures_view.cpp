@@ -1,6 +1,5 @@
 #include "ui/pictures_view.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -32,11 +31,9 @@ constexpr QSize kPictureSizes[] = {{128, 96}, {192, 144}, {288, 216}};
 }  // namespace
 
 PicturesView::PicturesView(FileSystem& files, SavegameListModel& lines, QWidget* parent)
-    : QAbstractItemView(parent),
-      files_(files),
-      lines_(lines),
-      queue_(new PictureQueue(files_, this)) {
+    : QListView(parent), files_(files), lines_(lines), queue_(new PictureQueue(files_, this)) {
   setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setSelectionRectVisible(true);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -59,15 +56,8 @@ void PicturesView::Attach(const Program& program) { program_ = &program; }
 
 void PicturesView::SetSize(TileSize size) {
   if (size_ == size) return;
-  // What was at the top stays in sight.
-  const std::optional<int> top = IndexAt({layout_.TileRect(0).center().x(), kPadding});
   size_ = size;
-  doItemsLayout();
-  if (currentIndex().isValid()) {
-    scrollTo(currentIndex(), PositionAtCenter);
-  } else if (top) {
-    ScrollToTop(*top);
-  }
+  LayOutAround();
   emit SizeChanged(size);
 }
 
@@ -89,7 +79,7 @@ const SavegameEntry& PicturesView::EntryOf(int index) const {
 
 void PicturesView::reset() {
   queue_->Forget();
-  QAbstractItemView::reset();
+  QListView::reset();
   LayOut();
 }
 
@@ -100,15 +90,31 @@ void PicturesView::LayOut() {
 
 void PicturesView::doItemsLayout() {
   layout_.SetSizes(SizeOfTile(), fontMetrics().height() + 3 * kPadding, viewport()->width());
-  QAbstractItemView::doItemsLayout();
+  updateGeometries();
+  viewport()->update();
   asking_.start();
+}
+
+void PicturesView::LayOutAround() {
+  const QRect seen = viewport()->rect();
+  const auto touched = layout_.Touched(seen.translated(0, verticalOffset()));
+  QModelIndex kept;
+  if (visualRect(currentIndex()).intersects(seen)) {
+    kept = currentIndex();
+  } else if (!touched.empty() && verticalOffset() > 0) {
+    kept = lines_.index(touched.front().first);
+  }
+  const int above = visualRect(kept).top();
+  doItemsLayout();
+  if (!kept.isValid()) return;
+  verticalScrollBar()->setValue(layout_.TileRect(kept.row()).top() - above);
+  if (kept == currentIndex()) scrollTo(kept);
 }
 
 void PicturesView::updateGeometries() {
   verticalScrollBar()->setSingleStep(std::max(1, SizeOfTile().height() / 3));
   verticalScrollBar()->setPageStep(viewport()->height());
   verticalScrollBar()->setRange(0, std::max(0, layout_.Height() - viewport()->height()));
-  QAbstractItemView::updateGeometries();
 }
 
 int PicturesView::verticalOffset() const { return verticalScrollBar()->value(); }
@@ -120,18 +126,18 @@ void PicturesView::scrollContentsBy(int /*dx*/, int dy) {
 }
 
 void PicturesView::resizeEvent(QResizeEvent* event) {
-  QAbstractItemView::resizeEvent(event);
-  doItemsLayout();
+  QListView::resizeEvent(event);
+  LayOutAround();
 }
 
 void PicturesView::showEvent(QShowEvent* event) {
-  QAbstractItemView::showEvent(event);
+  QListView::showEvent(event);
   asking_.start();
 }
 
 void PicturesView::changeEvent(QEvent* event) {
-  QAbstractItemView::changeEvent(event);
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) doItemsLayout();
+  QListView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) LayOutAround();
 }
 
 QRect PicturesView::visualRect(const QModelIndex& index) const {
@@ -143,7 +149,9 @@ std::optional<int> PicturesView::IndexAt(QPoint point) const {
   return index < 0 ? std::nullopt : std::optional(index);
 }
 
+// Out of sight there is none: the rubber band scrolls on there.
 QModelIndex PicturesView::indexAt(const QPoint& point) const {
+  if (!viewport()->rect().contains(point)) return {};
   const std::optional<int> index = IndexAt(point);
   return index ? lines_.index(*index) : QModelIndex();
 }
@@ -154,7 +162,7 @@ void PicturesView::scrollTo(const QModelIndex& index, ScrollHint hint) {
   QRect wanted = layout_.TileRect(index.row());
   const QRect heading = layout_.HeadingRect(index.row());
   if (index.row() - layout_.FirstOfRun(index.row()) < layout_.Columns()) {
-    wanted.setTop(heading.top());
+    wanted.setTop(layout_.FirstOfRun(index.row()) == 0 ? 0 : heading.top());
   }
   const int room = viewport()->height();
   int offset = verticalOffset();
@@ -258,26 +266,18 @@ QRegion PicturesView::visualRegionForSelection(const QItemSelection& selection) 
 }
 
 void PicturesView::keyboardSearch(const QString& search) {
-  if (typing_.Takes(search)) QAbstractItemView::keyboardSearch(search);
+  if (typing_.Takes(search)) QListView::keyboardSearch(search);
 }
 
 void PicturesView::dataChanged(const QModelIndex& top_left, const QModelIndex& bottom_right,
                                const QList<int>& roles) {
   for (int i = top_left.row(); i <= bottom_right.row(); ++i) Renew(i);
-  QAbstractItemView::dataChanged(top_left, bottom_right, roles);
+  QListView::dataChanged(top_left, bottom_right, roles);
 }
 
 void PicturesView::Renew(int index) {
   queue_->Renew(EntryOf(index).ShotPath);
   asking_.start();
-}
-
-void PicturesView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QAbstractItemView::currentChanged(current, previous);
-  if (!current.isValid() || !isVisible() || !QAccessible::isActive()) return;
-  QAccessibleEvent event(this, QAccessible::Focus);
-  event.setChild(current.row());
-  QAccessible::updateAccessibility(&event);
 }
 
 void PicturesView::AskForPictures() {
@@ -400,7 +400,11 @@ void PicturesView::PaintTile(QPainter& painter, int index) const {
     focus.rect = tile.adjusted(1, 1, -1, -1);
     focus.backgroundColor = palette().color(selected ? QPalette::Highlight : QPalette::Base);
     focus.state |= QStyle::State_KeyboardFocusChange;
+    // Some styles fill the frame; the picture keeps its colours.
+    painter.save();
+    painter.setClipRegion(QRegion(tile) - box, Qt::IntersectClip);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    painter.restore();
   }
 }
 
@@ -420,7 +424,7 @@ QString PicturesView::TipOf(int index) const {
 }
 
 bool PicturesView::viewportEvent(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QAbstractItemView::viewportEvent(event);
+  if (event->type() != QEvent::ToolTip) return QListView::viewportEvent(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   const std::optional<int> index = IndexAt(help->pos());
   QToolTip::showText(help->globalPos(), index ? TipOf(*index) : QString(), viewport(),
@@ -432,13 +436,13 @@ void PicturesView::contextMenuEvent(QContextMenuEvent* event) { ShowContextMenu(
 
 void PicturesView::keyPressEvent(QKeyEvent* event) {
   const QModelIndex before = currentIndex();
-  QAbstractItemView::keyPressEvent(event);
+  QListView::keyPressEvent(event);
   SelectAloneAtTheEnd(*this, before, *event);
 }
 
 void PicturesView::wheelEvent(QWheelEvent* event) {
   if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-    return QAbstractItemView::wheelEvent(event);
+    return QListView::wheelEvent(event);
   }
   turned_ += event->angleDelta().y();
   const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
@@ -449,11 +453,11 @@ void PicturesView::wheelEvent(QWheelEvent* event) {
 
 void PicturesView::mousePressEvent(QMouseEvent* event) {
   band_anchor_ = event->position().toPoint() + QPoint(0, verticalOffset());
-  QAbstractItemView::mousePressEvent(event);
+  QListView::mousePressEvent(event);
 }
 
 void PicturesView::mouseMoveEvent(QMouseEvent* event) {
-  QAbstractItemView::mouseMoveEvent(event);
+  QListView::mouseMoveEvent(event);
   if (state() != DragSelectingState) return;
   const QPoint at = event->position().toPoint() + QPoint(0, verticalOffset());
   band_ = QRect(band_anchor_, at).normalized();
@@ -461,7 +465,7 @@ void PicturesView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PicturesView::mouseReleaseEvent(QMouseEvent* event) {
-  QAbstractItemView::mouseReleaseEvent(event);
+  QListView::mouseReleaseEvent(event);
   band_ = {};
   viewport()->update();
 }

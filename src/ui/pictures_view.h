@@ -2,7 +2,7 @@
 #ifndef VELLUMARK_UI_PICTURES_VIEW_H_
 #define VELLUMARK_UI_PICTURES_VIEW_H_
 
-#include <QAbstractItemView>
+#include <QListView>
 #include <QTimer>
 #include <optional>
 #include <string>
@@ -21,7 +21,9 @@ class SavegameListModel;
 
 enum class TileSize { kSmall, kMedium, kLarge };
 
-class PicturesView final : public QAbstractItemView {
+// A list to assistive technology and in all that concerns the selection; places, painting and the
+// way from tile to tile are its own.
+class PicturesView final : public QListView {
   Q_OBJECT
 
  public:
@@ -64,7 +66,6 @@ class PicturesView final : public QAbstractItemView {
   void scrollContentsBy(int dx, int dy) override;
   void dataChanged(const QModelIndex& top_left, const QModelIndex& bottom_right,
                    const QList<int>& roles) override;
-  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -83,6 +84,8 @@ class PicturesView final : public QAbstractItemView {
   QSize SizeOfTile() const;
   const SavegameEntry& EntryOf(int index) const;
   void LayOut();
+  // The same, but what is in sight stays there: the current tile, or else the one at the top.
+  void LayOutAround();
   QModelIndex CurrentOrFirst() const;
   std::optional<int> IndexAt(QPoint point) const;
   int PageFrom(int index, int direction) const;
