@@ -44,6 +44,7 @@
 #include "ui/modal_dialog.h"
 #include "ui/picture_box.h"
 #include "ui/pictures_view.h"
+#include "ui/quiet_text.h"
 #include "ui/read_only_field.h"
 #include "ui/recent_archives.h"
 #include "ui/savegame_list.h"
@@ -93,6 +94,7 @@ void FillRow(QWidget* line, std::initializer_list<QWidget*> controls) {
 
 Principale::Principale(FileSystem& files, const Text& text) : files_(files), text_(text) {
   setObjectName(QStringLiteral("Principale"));
+  KeepQuietTextReadable();
   resize(QSize(1120, 700).boundedTo(RoomOnScreen(*this)));
   BuildMenus();
   BuildRecentMenu();
@@ -508,6 +510,13 @@ bool Principale::SessionEnds() { return HasEndSignal(); }
 bool Principale::IsOpen(WindowId dialog) {
   const QPointer<QDialog>& window = open_dialogs_[dialog];
   return window != nullptr && window->isVisible();
+}
+
+void Principale::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  // Not before all windows have taken the new colours.
+  QMetaObject::invokeMethod(this, &KeepQuietTextReadable, Qt::QueuedConnection);
 }
 
 void Principale::closeEvent(QCloseEvent* event) {

@@ -73,6 +73,7 @@ class Principale final : public QMainWindow, public MainWindow, public Windows {
  protected:
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void BuildMenus();

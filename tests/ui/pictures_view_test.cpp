@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "ui/picture_queue.h"
 #include "ui/savegame_list.h"
@@ -283,13 +284,27 @@ void PicturesViewTest::WindowsOfAnySizeAndLookShowTheTiles() {
   window_->resize(800, 600);
   QTRY_VERIFY(TileOf(0).width() > 0);
   QVERIFY(TileOf(0).right() < Pictures()->viewport()->width());
-  // A dark desktop: what stands in place of a picture is darker than its words.
-  QPalette dark;
+  window_->resize(1000, 700);
+  QTRY_VERIFY(Pictures()->viewport()->rect().contains(TileOf(2)));
+  // A dark desktop that says nothing of quiet words.
+  const QPalette before = QApplication::palette();
+  QPalette dark = before;
   dark.setColor(QPalette::Base, QColor(30, 30, 30));
   dark.setColor(QPalette::Text, Qt::white);
-  window_->setPalette(dark);
-  QTRY_VERIFY(ColourOf(2).lightness() < 120);
-  QVERIFY(Pictures()->viewport()->grab().toImage().pixelColor(1, 1).lightness() < 60);
+  dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+  QApplication::setPalette(dark);
+  QTRY_VERIFY(Pictures()->palette().color(QPalette::PlaceholderText).lightness() > 200);
+  QVERIFY(ColourOf(2).lightness() < 120);
+  const QImage painted = Pictures()->viewport()->grab(TileOf(2)).toImage();
+  int lightest = 0;  // in the placeholder, where the level's name stands
+  for (int y = 20; y < 100; ++y) {
+    for (int x = 20; x < painted.width() - 20; ++x) {
+      lightest = std::max(lightest, painted.pixelColor(x, y).lightness());
+    }
+  }
+  QApplication::setPalette(before);
+  QTRY_VERIFY(Pictures()->viewport()->grab().toImage().pixelColor(1, 1).lightness() > 200);
+  QVERIFY2(lightest > 120, qPrintable(QString::number(lightest)));
 }
 
 }  // namespace vellumark
