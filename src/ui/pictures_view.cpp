@@ -19,6 +19,7 @@
 #include "program.h"
 #include "savegames/tile.h"
 #include "ui/picture_queue.h"
+#include "ui/plain_tip.h"
 #include "ui/savegame_list_model.h"
 #include "ui/tile_painting.h"
 
@@ -417,10 +418,7 @@ QString PicturesView::TipOf(int index) const {
     parts.append(QString::fromStdString(LoadMessage(kPictureNotShown, {picture->fault})));
   }
   if (!entry.NoteText.empty()) parts.append(ToDisplayText(program_->text, NoteInTip(entry)));
-  if (parts.isEmpty()) return {};
-  // A note is never taken for marked-up text.
-  return QStringLiteral("<p style='white-space:pre-wrap'>") +
-         parts.join(QStringLiteral("\n\n")).toHtmlEscaped() + QStringLiteral("</p>");
+  return PlainTip(parts.join(QStringLiteral("\n\n")));
 }
 
 bool PicturesView::viewportEvent(QEvent* event) {
