@@ -42,7 +42,7 @@ class FilledWindow {
     clock_.Settle();
     ScanArchive(program_);
     const double shown = clock_.WaitForFrame(List()->viewport());
-    Require(program_.catalogue.entries.size() == kSavegames && boxes_.shown.empty(),
+    Require(program_.catalogue.entries.size() == kSavegames && services_.boxes.shown.empty(),
             "The list is not whole.");
     return shown - scan_ended_;
   }
@@ -78,23 +78,9 @@ class FilledWindow {
   std::unique_ptr<Text> text_ = MakeSystemText();
   std::unique_ptr<FileSystem> real_files_ = MakeSystemFileSystem(*text_);
   testing::FaultyFileSystem files_{*real_files_};
-  testing::ScriptedMessageBoxes boxes_;
-  testing::ScriptedFileDialogs dialogs_;
-  testing::RecordedSounds sounds_;
-  testing::RecordedShell shell_;
-  testing::ScriptedDesktopWindows desktop_;
-  testing::ScriptedClipboard clipboard_;
+  testing::ScriptedServices services_;
   Principale window_{files_, *text_};
-  Program program_{.files = files_,
-                   .text = *text_,
-                   .boxes = boxes_,
-                   .file_dialogs = dialogs_,
-                   .sounds = sounds_,
-                   .shell = shell_,
-                   .desktop = desktop_,
-                   .clipboard = clipboard_,
-                   .windows = window_,
-                   .main_window = window_};
+  Program program_ = services_.NewProgram(files_, *text_, window_, window_);
   double scan_ended_ = 0;
 };
 

@@ -70,7 +70,7 @@ class Window {
     window_.Attach(program_);
     window_.show();
     ScanArchive(program_);
-    Require(program_.catalogue.entries.size() == kSavegames && boxes_.shown.empty(),
+    Require(program_.catalogue.entries.size() == kSavegames && services_.boxes.shown.empty(),
             "The list is not whole.");
     clock_.WaitForFrame(Views().List().viewport());
     clock_.Settle();
@@ -155,23 +155,9 @@ class Window {
   FrameClock& clock_;
   std::unique_ptr<Text> text_ = MakeSystemText();
   std::unique_ptr<FileSystem> files_ = MakeSystemFileSystem(*text_);
-  vellumark::testing::ScriptedMessageBoxes boxes_;
-  vellumark::testing::ScriptedFileDialogs dialogs_;
-  vellumark::testing::RecordedSounds sounds_;
-  vellumark::testing::RecordedShell shell_;
-  vellumark::testing::ScriptedDesktopWindows desktop_;
-  vellumark::testing::ScriptedClipboard clipboard_;
+  vellumark::testing::ScriptedServices services_;
   Principale window_{*files_, *text_};
-  Program program_{.files = *files_,
-                   .text = *text_,
-                   .boxes = boxes_,
-                   .file_dialogs = dialogs_,
-                   .sounds = sounds_,
-                   .shell = shell_,
-                   .desktop = desktop_,
-                   .clipboard = clipboard_,
-                   .windows = window_,
-                   .main_window = window_};
+  Program program_ = services_.NewProgram(*files_, *text_, window_, window_);
 };
 
 // Decodes files to the size of a tile on all processors, and keeps nothing.

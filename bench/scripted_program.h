@@ -11,26 +11,10 @@
 
 namespace vellumark::bench {
 
-struct ScriptedProgram {
+struct ScriptedProgram : vellumark::testing::ScriptedServices {
   std::unique_ptr<Text> text = MakeSystemText();
   std::unique_ptr<FileSystem> files = MakeSystemFileSystem(*text);
-  vellumark::testing::ScriptedMessageBoxes boxes;
-  vellumark::testing::ScriptedFileDialogs dialogs;
-  vellumark::testing::RecordedSounds sounds;
-  vellumark::testing::RecordedShell shell;
-  vellumark::testing::ScriptedDesktopWindows desktop;
-  vellumark::testing::ScriptedClipboard clipboard;
-  vellumark::testing::ScriptedWindows windows;
-  Program program{.files = *files,
-                  .text = *text,
-                  .boxes = boxes,
-                  .file_dialogs = dialogs,
-                  .sounds = sounds,
-                  .shell = shell,
-                  .desktop = desktop,
-                  .clipboard = clipboard,
-                  .windows = windows,
-                  .main_window = windows};
+  Program program = NewProgram(*files, *text, windows, windows);
 };
 
 }  // namespace vellumark::bench

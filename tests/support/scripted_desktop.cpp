@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "program.h"
+
 namespace vellumark::testing {
 
 BoxAnswer ScriptedMessageBoxes::Show(const std::string& text, BoxButtons buttons, BoxIcon icon) {
@@ -66,6 +68,20 @@ void ScriptedClipboard::Empty() {
   ++emptied;
   content = nullptr;
   if (after_empty) after_empty();
+}
+
+Program ScriptedServices::NewProgram(FileSystem& files, const Text& text, Windows& shown,
+                                     MainWindow& main_window) {
+  return {.files = files,
+          .text = text,
+          .boxes = boxes,
+          .file_dialogs = dialogs,
+          .sounds = sounds,
+          .shell = shell,
+          .desktop = desktop,
+          .clipboard = clipboard,
+          .windows = shown,
+          .main_window = main_window};
 }
 
 }  // namespace vellumark::testing

@@ -20,6 +20,12 @@
 #include "platform/sound_player.h"
 #include "savegames/main_window_interface.h"
 
+namespace vellumark {
+class FileSystem;
+class Text;
+struct Program;
+}  // namespace vellumark
+
 namespace vellumark::testing {
 
 class ScriptedMessageBoxes final : public MessageBoxes {
@@ -182,6 +188,20 @@ class ScriptedWindows final : public MainWindow, public Windows {
   int painted_busy = 0;  // how often an operation has let the windows paint
   int ends_after_painting = std::numeric_limits<int>::max();  // when the system ends the session
   std::function<void(WindowId)> in_dialog;  // what the user does in a modal dialog
+};
+
+// All that a program asks of its user and of the desktop.
+struct ScriptedServices {
+  ScriptedMessageBoxes boxes;
+  ScriptedFileDialogs dialogs;
+  RecordedSounds sounds;
+  RecordedShell shell;
+  ScriptedDesktopWindows desktop;
+  ScriptedClipboard clipboard;
+  ScriptedWindows windows;
+
+  // A program with these services, but for windows of its own.
+  Program NewProgram(FileSystem& files, const Text& text, Windows& shown, MainWindow& main_window);
 };
 
 }  // namespace vellumark::testing

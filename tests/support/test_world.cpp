@@ -47,16 +47,7 @@ TestWorld::TestWorld(Roots more_drives)
 TestWorld::~TestWorld() { std::filesystem::current_path(working_folder_); }
 
 Program TestWorld::NewProgram(Windows& shown, MainWindow& main_window) {
-  Program program{.files = files,
-                  .text = text,
-                  .boxes = boxes,
-                  .file_dialogs = dialogs,
-                  .sounds = sounds,
-                  .shell = shell,
-                  .desktop = desktop,
-                  .clipboard = clipboard,
-                  .windows = shown,
-                  .main_window = main_window};
+  Program program = ScriptedServices::NewProgram(files, text, shown, main_window);
   program.paths.ProgramFolder = "T:\\Program";
   program.trust.programs = {WorldSettings().GameExecutable};
   return program;

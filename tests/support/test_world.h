@@ -24,7 +24,7 @@ std::string SavegameBytes(const std::string& level, std::int16_t counter, int se
 // The settings of the world's archive.
 ArchiveSettings WorldSettings();
 
-class TestWorld {
+class TestWorld : public ScriptedServices {
  public:
   // The host folders of drives that it has besides.
   explicit TestWorld(std::map<char, std::string> more_drives = {});
@@ -48,13 +48,6 @@ class TestWorld {
   CodePageText text{1252, "en", false};
   TestDrives drives;
   FaultyFileSystem files;
-  ScriptedMessageBoxes boxes;
-  ScriptedFileDialogs dialogs;
-  RecordedSounds sounds;
-  RecordedShell shell;
-  ScriptedDesktopWindows desktop;
-  ScriptedClipboard clipboard;
-  ScriptedWindows windows;
 
  private:
   std::filesystem::path working_folder_ = std::filesystem::current_path();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "platform/common/host_names.h"
 
@@ -62,6 +63,17 @@ std::optional<WindowsPath> ParseWindowsPath(std::string_view path, const Windows
   if (relative && result.drive == current.drive) result.names = current.names;
   AddNames(path, &result.names);
   return result;
+}
+
+std::optional<ListPattern> ParseListPattern(std::string_view pattern, const WindowsPath& current) {
+  std::optional<WindowsPath> folder = ParseWindowsPath(pattern, current);
+  if (!folder) return std::nullopt;
+  std::string names = "*";
+  if (!folder->names.empty()) {
+    names = std::move(folder->names.back());
+    folder->names.pop_back();
+  }
+  return ListPattern{std::move(*folder), std::move(names)};
 }
 
 }  // namespace vellumark

@@ -26,6 +26,16 @@ struct WindowsPath {
 // of a computer in a network (`\\computer\folder`), which no drive stands for.
 std::optional<WindowsPath> ParseWindowsPath(std::string_view path, const WindowsPath& current);
 
+// A folder, and the names in it that are meant (with `*` and `?`).
+struct ListPattern {
+  WindowsPath folder;
+  std::string names;
+};
+
+// The same for what is to be listed: the last name is the pattern, and a drive alone lists its
+// root.
+std::optional<ListPattern> ParseListPattern(std::string_view pattern, const WindowsPath& current);
+
 }  // namespace vellumark
 
 #endif  // VELLUMARK_PLATFORM_COMMON_WINDOWS_PATH_H_

@@ -107,21 +107,14 @@ FileError PosixFileSystem::OpenDirectory(const WindowsPath& path, Directory* dir
 }
 
 Listing PosixFileSystem::List(const std::string& pattern) {
-  std::optional<WindowsPath> folder = ParseWindowsPath(pattern, current_);
-  if (!folder) return {FileError::kNotFound, {}, {}};
-
-  // A drive alone lists its root.
-  std::string wanted = "*";
-  if (!folder->names.empty()) {
-    wanted = std::move(folder->names.back());
-    folder->names.pop_back();
-  }
-  if (!folder->HasOnlyWindowsNames()) return {FileError::kBadName, {}, {}};
+  const std::optional<ListPattern> parsed = ParseListPattern(pattern, current_);
+  if (!parsed) return {FileError::kNotFound, {}, {}};
+  if (!parsed->folder.HasOnlyWindowsNames()) return {FileError::kBadName, {}, {}};
 
   Directory directory;
-  const FileError error = OpenDirectory(*folder, &directory);
+  const FileError error = OpenDirectory(parsed->folder, &directory);
   if (error != FileError::kNone) return {error, {}, {}};
-  return ListDirectory(&directory, names_, wanted).listing;
+  return ListDirectory(&directory, names_, parsed->names).listing;
 }
 
 std::unique_ptr<FolderReader> PosixFileSystem::OpenFolder(const std::string& folder) {

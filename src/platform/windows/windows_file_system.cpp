@@ -99,18 +99,11 @@ AttributesResult WindowsFileSystem::Attributes(const std::string& path) {
 }
 
 Listing WindowsFileSystem::List(const std::string& pattern) {
-  std::optional<WindowsPath> folder = ParseWindowsPath(pattern, current_);
-  if (!folder) return {FileError::kNotFound, {}, {}};
-
-  // A drive alone lists its root.
-  std::string wanted = "*";
-  if (!folder->names.empty()) {
-    wanted = std::move(folder->names.back());
-    folder->names.pop_back();
-  }
-  const CheckedPath checked = PathToLookFor(folder->Joined());
+  const std::optional<ListPattern> parsed = ParseListPattern(pattern, current_);
+  if (!parsed) return {FileError::kNotFound, {}, {}};
+  const CheckedPath checked = PathToLookFor(parsed->folder.Joined());
   if (checked.error != FileError::kNone) return {checked.error, {}, {}};
-  return ListFolder(checked.wide, names_, wanted).listing;
+  return ListFolder(checked.wide, names_, parsed->names).listing;
 }
 
 std::unique_ptr<FolderReader> WindowsFileSystem::OpenFolder(const std::string& folder) {
