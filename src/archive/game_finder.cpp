@@ -22,6 +22,7 @@ namespace {
 constexpr std::size_t kLongestList = std::size_t{1} << 20U;
 constexpr std::size_t kMostFiles = 64;
 constexpr std::size_t kMostFolders = 200;
+constexpr std::int16_t kUsualHighestSlot = 15;
 constexpr std::array<std::string_view, 4> kWords = {"tomb raider", "tombraider", "last revelation",
                                                     "trlr"};
 constexpr std::array<std::string_view, 6> kMakers = {
@@ -45,14 +46,49 @@ std::string ValueIn(std::string_view line, std::string_view name) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+// The disk until the time is up; from then on nothing is there. The search has no other way to it,
+// so it is over after the look that was under way.
+class TimedDisk {
+ public:
+  TimedDisk(FileSystem& files, std::chrono::milliseconds limit)
+      : files_(files), end_(std::chrono::steady_clock::now() + limit) {}
+
+  // The core's path of a folder that a host path names.
+  std::optional<std::string> FromHost(const std::string& path) const {
+    return HasTime() ? files_.FromHostPath(path) : std::nullopt;
+  }
+  // A folder by its drive's letter where it is the root of a drive.
+  std::string ByLetter(const std::string& folder) const {
+    return FromHost(HasTime() ? files_.HostPath(folder) : std::string()).value_or(folder);
+  }
+  std::vector<FolderEntry> Entries(const std::string& pattern) const {
+    return HasTime() ? files_.List(pattern).entries : std::vector<FolderEntry>();
+  }
+  // Nothing of a file that is longer than a list is.
+  std::string ReadList(const std::string& file) const {
+    if (!HasTime()) return {};
+    const ReadResult read = files_.Read(file, kLongestList + 1);
+    const bool whole = read.error == FileError::kNone && read.bytes.size() <= kLongestList;
+    return whole ? read.bytes : std::string();
+  }
+  bool HasFile(const std::string& path) const { return HasTime() && FileExists(files_, path); }
+  bool HasFolder(const std::string& path) const { return HasTime() && FolderExists(files_, path); }
+  std::int16_t HighestSlot(const std::string& folder) const {
+    return HasTime() ? HighestSlotIn(files_, folder) : kUsualHighestSlot;
+  }
+
+ private:
+  bool HasTime() const { return std::chrono::steady_clock::now() < end_; }
+
+  FileSystem& files_;
+  const std::chrono::steady_clock::time_point end_;
+};
+
 class Search {
  public:
   Search(FileSystem& files, const Text& text, const GamePlaces& places,
          std::chrono::milliseconds limit)
-      : files_(files),
-        text_(text),
-        places_(places),
-        end_(std::chrono::steady_clock::now() + limit) {}
+      : disk_(files, limit), text_(text), places_(places) {}
 
   std::vector<FoundGame> Run() {
     for (const std::string& folder : places_.game_folders) LookInHost(folder);
@@ -76,29 +112,18 @@ class Search {
   }
 
  private:
-  bool HasTime() const { return std::chrono::steady_clock::now() < end_; }
-
   // Nothing for what is not absolute or leads to another computer.
   std::optional<std::string> FromHost(const std::string& path) const {
     const bool rooted = !path.empty() && (path[0] == '/' || path.substr(1, 1) == ":");
-    if (!HasTime() || !rooted || path.starts_with("//")) return std::nullopt;
-    return files_.FromHostPath(path);
+    return rooted && !path.starts_with("//") ? disk_.FromHost(path) : std::nullopt;
   }
 
   std::vector<std::string> FoldersIn(const std::string& folder, std::size_t most) const {
     std::vector<std::string> names;
-    if (!HasTime()) return names;
-    for (const FolderEntry& entry : files_.List(Below(folder, "*")).entries) {
+    for (const FolderEntry& entry : disk_.Entries(Below(folder, "*"))) {
       if (entry.folder && !entry.ambiguous && names.size() < most) names.push_back(entry.name);
     }
     return names;
-  }
-
-  std::string ReadList(const std::string& file) const {
-    if (!HasTime()) return {};
-    const ReadResult read = files_.Read(file, kLongestList + 1);
-    const bool whole = read.error == FileError::kNone && read.bytes.size() <= kLongestList;
-    return whole ? read.bytes : std::string();
   }
 
   bool SpeaksOfGame(const std::string& name) const {
@@ -115,11 +140,8 @@ class Search {
 
   void LookIn(const std::string& folder) {
     const std::string executable = Below(folder, LoadMessage(331));
-    if (!HasTime() || executable.size() > kTextFieldSize || IsKnown(folder) ||
-        !FileExists(files_, executable)) {
-      return;
-    }
-    games_.push_back({folder, executable, HighestSlotIn(files_, folder)});
+    if (executable.size() > kTextFieldSize || IsKnown(folder) || !disk_.HasFile(executable)) return;
+    games_.push_back({folder, executable, disk_.HighestSlot(folder)});
   }
 
   void LookInHost(const std::string& folder) {
@@ -143,9 +165,9 @@ class Search {
   void LookInPrefix(const std::string& prefix) {
     if (!prefixes_.insert(text_.LowerPath(prefix)).second) return;
     const std::string drive = Below(prefix, "drive_c");
-    if (!HasTime() || !FolderExists(files_, drive)) return;
+    if (!disk_.HasFolder(drive)) return;
     // By the letter where this prefix is the one in use.
-    const std::string root = files_.FromHostPath(files_.HostPath(drive)).value_or(drive);
+    const std::string root = disk_.ByLetter(drive);
     LookInGames(root);
     for (const std::string_view name : kProgramFolders) LookInPrograms(Below(root, name));
   }
@@ -155,7 +177,7 @@ class Search {
     if (!steam) return;
     SearchLibrary(*steam);
     const auto listed =
-        ReadSteamLibraries(ReadList(Below(*steam, "steamapps\\libraryfolders.vdf")));
+        ReadSteamLibraries(disk_.ReadList(Below(*steam, "steamapps\\libraryfolders.vdf")));
     if (!listed) return;
     for (const std::string& library : *listed) {
       if (const auto path = FromHost(library)) SearchLibrary(*path);
@@ -171,7 +193,7 @@ class Search {
   }
 
   void LookInListed(const std::string& file, std::string_view name) {
-    const std::string json = ReadList(file);
+    const std::string json = disk_.ReadList(file);
     if (json.empty() || !places_.json_texts) return;
     for (const std::string& folder : places_.json_texts(json, name)) LookInHost(folder);
   }
@@ -184,7 +206,7 @@ class Search {
     LookInListed(Below(*heroic, "nile_config\\nile\\installed.json"), "path");
     LookInListed(Below(*heroic, "sideload_apps\\library.json"), "folder_name");
     for (const std::string& file : FilesIn(Below(*heroic, "GamesConfig"), "*.json")) {
-      const std::string json = ReadList(file);
+      const std::string json = disk_.ReadList(file);
       if (json.empty() || !places_.json_texts) continue;
       for (const std::string& prefix : places_.json_texts(json, "winePrefix")) {
         const auto path = FromHost(prefix);
@@ -199,7 +221,7 @@ class Search {
     const auto lutris = FromHost(folder);
     if (!lutris) return;
     for (const std::string& file : FilesIn(*lutris, "*.yml")) {
-      const std::string settings = ReadList(file);
+      const std::string settings = disk_.ReadList(file);
       for (std::string_view rest = settings; !rest.empty();) {
         const std::string_view line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));
@@ -211,17 +233,15 @@ class Search {
 
   std::vector<std::string> FilesIn(const std::string& folder, const char* pattern) const {
     std::vector<std::string> paths;
-    if (!HasTime()) return paths;
-    for (const FolderEntry& entry : files_.List(Below(folder, pattern)).entries) {
+    for (const FolderEntry& entry : disk_.Entries(Below(folder, pattern))) {
       if (entry.plain && paths.size() < kMostFiles) paths.push_back(Below(folder, entry.name));
     }
     return paths;
   }
 
-  FileSystem& files_;
+  const TimedDisk disk_;
   const Text& text_;
   const GamePlaces& places_;
-  const std::chrono::steady_clock::time_point end_;
   std::vector<FoundGame> games_;
   std::vector<std::string> libraries_;
   std::set<std::string> prefixes_;
@@ -235,7 +255,6 @@ std::vector<FoundGame> FindGames(FileSystem& files, const Text& text, const Game
 }
 
 std::int16_t HighestSlotIn(FileSystem& files, const std::string& folder) {
-  constexpr std::int16_t kUsual = 15;
   constexpr std::int16_t kFewer = 10;
   constexpr int kMost = 99;
   constexpr std::string_view kName = "savegame.";
@@ -247,10 +266,10 @@ std::int16_t HighestSlotIn(FileSystem& files, const std::string& folder) {
     const auto read = std::from_chars(entry.name.data() + kName.size(), end, number);
     if (read.ptr == end && number >= 0 && number <= kMost) slots.insert(number);
   }
-  if (slots.empty()) return kUsual;
+  if (slots.empty()) return kUsualHighestSlot;
   const int highest = *slots.rbegin();
   if (highest == kFewer && slots.size() == std::size_t{kFewer} + 1) return kFewer;
-  return std::max(kUsual, static_cast<std::int16_t>(highest));
+  return std::max(kUsualHighestSlot, static_cast<std::int16_t>(highest));
 }
 
 }  // namespace vellumark

@@ -1,10 +1,11 @@
 #include "ui/game_search.h"
 
 #include <chrono>
-#include <functional>
+#include <system_error>
+#include <thread>
+#include <utility>
 
 #include "archive/game_finder.h"
-#include "platform/qt/background_work.h"
 #include "platform/qt/json_texts.h"
 #include "platform/system_services.h"
 #include "program.h"
@@ -31,8 +32,19 @@ GameSearch::GameSearch(Program& program) : program_(program) {
   QTimer::singleShot(0, this, &GameSearch::Begin);
 }
 
+GameSearch::~GameSearch() {
+  if (search_.valid()) search_.wait_for(kMostDiskTime);
+}
+
+// On a thread that nobody waits for: where a disk does not answer, the program still ends.
 void GameSearch::Begin() {
-  search_ = BeginBeside(std::function(FindInstalledGames));
+  std::packaged_task search(FindInstalledGames);
+  search_ = search.get_future();
+  try {
+    std::thread(std::move(search)).detach();
+  } catch (const std::system_error&) {
+    return;  // no threads are left: the fields of a new archive stay empty
+  }
   timer_.start(kLookInterval);
 }
 

@@ -19,6 +19,8 @@ class GameSearch final : public QObject {
  public:
   // Begins as soon as the events that are waiting have been worked off.
   explicit GameSearch(Program& program);
+  // Leaves a search alone that a disk holds up.
+  ~GameSearch() override;
 
  signals:
   // The program's state holds what was found.
@@ -30,7 +32,7 @@ class GameSearch final : public QObject {
 
   Program& program_;
   QTimer timer_;
-  std::shared_future<std::vector<FoundGame>> search_;
+  std::future<std::vector<FoundGame>> search_;
 };
 
 }  // namespace vellumark

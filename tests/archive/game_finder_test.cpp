@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "archive/steam_libraries.h"
 #include "support/test_world.h"
 
@@ -10,7 +13,7 @@ namespace vellumark {
 namespace {
 
 using Libraries = std::vector<std::string>;
-using std::string_literals::operator""s;
+using std::string_literals::operator""s;  // NOLINT(misc-unused-using-decls): it is used
 
 TEST(SteamLibrariesTest, BothFormsAreRead) {
   EXPECT_EQ(ReadSteamLibraries("// a comment\n\"libraryfolders\"\n{\n\t\"0\"\n\t{\n"
@@ -112,6 +115,36 @@ TEST_F(GameFinderTest, WithoutTimeTheDiskIsLeftAlone) {
                    0)
                   .empty());
   EXPECT_EQ(world_.files.calls(), before);
+}
+
+TEST_F(GameFinderTest, NoLookBeginsOnceTheTimeIsUp) {
+  constexpr std::chrono::milliseconds kLimit(20);
+  Install("Steam/steamapps/common/Tomb Raider");
+  Install("Programs/Core Design/trlr");
+  Install("prefix/drive_c/GOG Games/Last Revelation");
+  world_.disk.Write("Steam/steamapps/libraryfolders.vdf", "\"l\" { }");
+  world_.disk.Write("heroic/GamesConfig/one.json", "json");
+  world_.disk.Write("lutris/one.yml", "prefix: " + Host("prefix") + "\n");
+  const GamePlaces places{
+      .game_folders = {Host("Game")},
+      .steam_folders = {Host("Steam")},
+      .program_folders = {Host("Programs")},
+      .heroic_folders = {Host("heroic")},
+      .lutris_folders = {Host("lutris")},
+      .json_texts = [&](auto, auto) { return std::vector<std::string>{Host("prefix")}; }};
+  world_.files.Reset();
+  ASSERT_EQ(Find(places).size(), 4U);
+  const int looks = world_.files.calls();
+  ASSERT_GT(looks, 20);
+  // The disk wakes up slowly at each of the looks in turn.
+  for (int slow = 1; slow < looks; ++slow) {
+    world_.files.Reset();
+    world_.files.meanwhile = [&](const std::string&) {
+      if (world_.files.calls() == slow) std::this_thread::sleep_for(kLimit);
+    };
+    Find(places, static_cast<int>(kLimit.count()));
+    EXPECT_LE(world_.files.calls(), slow) << "of " << looks;
+  }
 }
 
 TEST_F(GameFinderTest, TheSlotsThatAreThereSpeakForTheHighest) {
