@@ -240,6 +240,9 @@ constexpr TableMessage kOwnMessages[] = {
     {kPageFoldersAdvice,
      "Perhaps a disk is not connected. When a folder has been moved, choose its new place with the "
      "command Archive in the menu Preferences."},
+    {kPageNetworkPath,
+     "Vellumark asks no computer in the network that an archive names by itself. To use a folder "
+     "there, give it a drive letter, then choose it by this letter."},
     {kPageArchiveEmpty,
      "This archive is empty, and there are no savegames in Tomb Raider folder ~1.\r\n\r\nPlay, and "
      "save in the game. Then look again here, and put the savegames into the archive with the "

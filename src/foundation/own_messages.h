@@ -151,6 +151,7 @@ enum OwnMessage : int {
   kPageMainFolderMissing,  // ~1 main folder
   kPageGameFolderMissing,  // ~1 game folder
   kPageFoldersAdvice,      // no values
+  kPageNetworkPath,        // no values
   kPageArchiveEmpty,       // ~1 game folder
   kPageNew,
   kPageNewFor,  // ~1 name of the game folder

@@ -1,5 +1,7 @@
 #include "session/first_page.h"
 
+#include <string_view>
+
 #include "archive/scan.h"
 #include "foundation/file_utilities.h"
 #include "foundation/message_box_talk.h"
@@ -17,6 +19,9 @@ std::string Paragraphs(const std::string& first, const std::string& second) {
   return second.empty() ? first : first + kLineBreak + kLineBreak + second;
 }
 
+// Leads to another computer, which is asked only once the user has given it a drive letter.
+bool IsNetworkPath(std::string_view path) { return path.starts_with(R"(\\)"); }
+
 std::string DescribeGames(const Program& program) {
   const auto& games = program.game_search.games;
   if (games.empty()) return {};
@@ -28,6 +33,9 @@ std::string DescribeGames(const Program& program) {
 
 std::string DescribeMissingArchive(const SessionState& session) {
   const std::string text = LoadMessage(kPageArchiveMissing, {Quoted(session.missing_archive)});
+  if (IsNetworkPath(session.missing_archive)) {
+    return Paragraphs(text, LoadMessage(kPageNetworkPath));
+  }
   return session.looked_again ? Paragraphs(text, LoadMessage(kPageStillMissing)) : text;
 }
 
@@ -60,6 +68,9 @@ FirstPage DescribeEmptyArchive(const ArchiveState& archive) {
       text = text.empty() ? missing : Paragraphs(text, missing);
     }
     page.text = Paragraphs(text, LoadMessage(kPageFoldersAdvice));
+    if (IsNetworkPath(settings.MainFolder) || IsNetworkPath(settings.GameFolder)) {
+      page.text = Paragraphs(page.text, LoadMessage(kPageNetworkPath));
+    }
   } else {
     page.text = LoadMessage(kPageArchiveEmpty, {game_folder});
   }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "archive/archive_file.h"
 #include "archive/archive_properties.h"
 #include "session/archive_commands.h"
 #include "session/start_up.h"
@@ -80,6 +81,24 @@ TEST_F(FirstPageTest, AnArchiveOpenSaysWhatIsNotThereOrWhatToDoNext) {
   AddSavegame("Game", 0, "Level", 1);
   LookAgain(program);
   EXPECT_EQ(DescribeFirstPage(program), std::nullopt);
+}
+
+TEST_F(FirstPageTest, APathInTheNetworkNeedsADriveLetter) {
+  ArchiveSettings settings = testing::WorldSettings();
+  settings.MainFolder = R"(\\server\share\Archive)";
+  disk.Write("Archive.vmk", EncodeArchive(settings));
+  WritePreferences();
+  StartUp(program);
+  EXPECT_TRUE(Says(R"("\\server\share\Archive" is not there)"));
+  EXPECT_TRUE(Says("drive letter"));
+  program.archive.settings.MainFolder = "T:\\Unplugged";
+  LookAgain(program);
+  EXPECT_FALSE(Says("drive letter"));
+
+  Program named = NewProgram();
+  named.argument_text = R"(\\server\share\My.vmk)";
+  StartUp(named);
+  EXPECT_NE(DescribeFirstPage(named)->text.find("drive letter"), std::string::npos);
 }
 
 TEST_F(FirstPageTest, ANewArchiveProposesTheGameAndStoresNothingWithoutOk) {
