@@ -72,7 +72,7 @@ DecodedPicture DecodeSmallPicture(std::string_view bytes, QSize most) {
   constexpr int kMostSmallMegabytes = 128;
   // Large pictures are decoded one after the other, however many threads ask.
   static QSemaphore megabytes(kMostSmallMegabytes);
-  QSemaphoreReleaser release;
+  std::optional<QSemaphoreReleaser> taken;
   const auto fault_of = [&](QSize size) {
     constexpr std::int64_t kAlwaysTaken = 1 << 20;
     // A picture of a single colour: no format that is common for screen-shots says more with a
@@ -87,7 +87,7 @@ DecodedPicture DecodeSmallPicture(std::string_view bytes, QSize most) {
     }
     const auto needed = static_cast<int>(kBytesInPixel * pixels / kMegabyte);
     megabytes.acquire(needed);
-    release = QSemaphoreReleaser(megabytes, needed);
+    taken.emplace(megabytes, needed);
     return FaultOfSize(size);
   };
   return Decode(bytes, most, fault_of);
