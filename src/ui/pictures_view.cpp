@@ -281,6 +281,27 @@ void PicturesView::Renew(int index) {
   asking_.start();
 }
 
+void PicturesView::Tell(QAccessible::Event event, const QModelIndex& index) {
+  if (!index.isValid() || !isVisible() || !QAccessible::isActive()) return;
+  QAccessibleEvent of_tile(this, event);
+  of_tile.setChild(index.row());
+  QAccessible::updateAccessibility(&of_tile);
+}
+
+// A list would look for the places that it has not laid out, and tell of no tile.
+void PicturesView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  if (hasFocus()) Tell(QAccessible::Focus, current);
+}
+
+void PicturesView::selectionChanged(const QItemSelection& selected,
+                                    const QItemSelection& deselected) {
+  QAbstractItemView::selectionChanged(  // NOLINT(bugprone-parent-virtual-call)
+      selected, deselected);
+  if (!selected.isEmpty()) Tell(QAccessible::SelectionAdd, selected.front().topLeft());
+  if (!deselected.isEmpty()) Tell(QAccessible::SelectionRemove, deselected.front().topLeft());
+}
+
 void PicturesView::AskForPictures() {
   if (!isVisible() || layout_.Count() == 0) return;
   const QRect seen = viewport()->rect().translated(0, verticalOffset());

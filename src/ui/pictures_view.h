@@ -2,6 +2,7 @@
 #ifndef VELLUMARK_UI_PICTURES_VIEW_H_
 #define VELLUMARK_UI_PICTURES_VIEW_H_
 
+#include <QAccessible>
 #include <QListView>
 #include <QTimer>
 #include <optional>
@@ -66,6 +67,8 @@ class PicturesView final : public QListView {
   void scrollContentsBy(int dx, int dy) override;
   void dataChanged(const QModelIndex& top_left, const QModelIndex& bottom_right,
                    const QList<int>& roles) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -84,6 +87,8 @@ class PicturesView final : public QListView {
   QSize SizeOfTile() const;
   const SavegameEntry& EntryOf(int index) const;
   void LayOut();
+  // Tells assistive technology of a tile.
+  void Tell(QAccessible::Event event, const QModelIndex& index);
   // The same, but what is in sight stays there: the current tile, or else the one at the top.
   void LayOutAround();
   QModelIndex CurrentOrFirst() const;

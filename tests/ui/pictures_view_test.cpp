@@ -105,6 +105,7 @@ void PicturesViewTest::AScreenReaderHearsWhatATileShows() {
   QCOMPARE(view->childAt(tile(1)->rect().center().x(), tile(1)->rect().center().y()), tile(1));
   QCOMPARE(view->indexOfChild(tile(3)), 3);
   QCOMPARE(tile(3)->parent(), view);
+
   QTest::keyClick(Pictures(), Qt::Key_Right);
   QCOMPARE(view->focusChild(), tile(1));
 }
