@@ -380,9 +380,10 @@ void PicturesView::PaintTile(QPainter& painter, int index) const {
   const auto group = active ? QPalette::Active : QPalette::Inactive;
   if (selected) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    // Out of focus, some themes leave hardly more of the colour than the ground has.
+    painter.setPen(active ? QPen(Qt::NoPen) : QPen(palette().color(QPalette::PlaceholderText)));
     painter.setBrush(palette().brush(group, QPalette::Highlight));
-    painter.drawRoundedRect(tile, 4, 4);
+    painter.drawRoundedRect(QRectF(tile).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     painter.setRenderHint(QPainter::Antialiasing, false);
   }
 

@@ -30,6 +30,7 @@ class PicturesViewTest : public WindowFixture {
   void TheTipHasTheNoteAndWhatIsWrongWithThePicture();
   void AChangedPictureIsReadAnew();
   void WindowsOfAnySizeAndLookShowTheTiles();
+  void WhatIsSelectedShowsWithoutTheFocusToo();
 
  private:
   void Prepare() override;
@@ -306,6 +307,19 @@ void PicturesViewTest::WindowsOfAnySizeAndLookShowTheTiles() {
   QApplication::setPalette(before);
   QTRY_VERIFY(Pictures()->viewport()->grab().toImage().pixelColor(1, 1).lightness() > 200);
   QVERIFY2(lightest > 120, qPrintable(QString::number(lightest)));
+}
+
+void PicturesViewTest::WhatIsSelectedShowsWithoutTheFocusToo() {
+  Show();
+  QPalette pale = window_->palette();
+  pale.setColor(QPalette::Inactive, QPalette::Highlight, pale.color(QPalette::Base));
+  Pictures()->setPalette(pale);
+  Find<QWidget>(window_.get(), "Text_Note")->setFocus();
+  const QImage painted = Pictures()->viewport()->grab().toImage();
+  const auto at_edge_of = [&](int index) {
+    return painted.pixelColor(TileOf(index).left(), TileOf(index).center().y()).lightness();
+  };
+  QVERIFY2(at_edge_of(1) - at_edge_of(0) > 40, qPrintable(QString::number(at_edge_of(0))));
 }
 
 }  // namespace vellumark
