@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QScrollBar>
 #include <QToolTip>
@@ -11,6 +12,7 @@
 #include <algorithm>
 
 #include "ui/picture_queue.h"
+#include "ui/plain_tip.h"
 #include "ui/savegame_list.h"
 #include "ui/window_fixture.h"
 
@@ -266,6 +268,13 @@ void PicturesViewTest::TheTipHasTheNoteAndWhatIsWrongWithThePicture() {
   QTRY_VERIFY(TipAt(1).contains(QLatin1String("This picture cannot be shown: it is no picture.")));
   QVERIFY(TipAt(1).contains(QLatin1String("line 10 ...")) && !TipAt(1).contains("line 11"));
   QTRY_VERIFY(TipAt(2).isEmpty());
+
+  // As long as there is room, a line of a tip is one line.
+  QLabel tip(PlainTip(QStringLiteral("Z:\\a folder\\Gone.vmk: it does not exist")));
+  tip.setWordWrap(true);
+  QVERIFY(tip.sizeHint().height() < 2 * tip.fontMetrics().height());
+  tip.setText(PlainTip(QString(300, u'n').replace(100, 1, u' ')));
+  QVERIFY(tip.sizeHint().height() >= 2 * tip.fontMetrics().height());
 }
 
 void PicturesViewTest::AChangedPictureIsReadAnew() {
