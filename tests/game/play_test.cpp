@@ -377,6 +377,17 @@ TEST_F(PlayTest, OffersTheRestoreWhenTheSlotsCouldNotBeFilled) {
   EXPECT_TRUE(shell.opened.empty());
 }
 
+TEST_F(PlayTest, AnOwnSlotThatCannotBePutBackIsNamedAndStaysInTheBackup) {
+  Play();
+  files.FailAlways("Copy", "temp\\savegame.3", FileError::kDiskFull);
+  Restore(BoxAnswer::kYes);
+  EXPECT_TRUE(Contains(boxes.AllTexts(), "\"T:\\Game\\savegame.3\"")) << boxes.AllTexts();
+  EXPECT_EQ(SlotsIn("Program/temp"), own);
+  files.Reset();
+  Restore(BoxAnswer::kYes);
+  EXPECT_EQ(InGame(), own);
+}
+
 TEST_F(PlayTest, ABackupThatIsNotWholeIsNotRestoredUnlessTheUserDeletedOfIt) {
   Play();
   const Files examined = disk.AllFiles("Game");
