@@ -10,7 +10,7 @@ struct Program;
 
 // True for a program that the user has chosen or confirmed before; any other is asked about, and a
 // yes is remembered.
-bool MayStartProgram(Program& program, const std::string& executable);
+bool MayStartProgram(Program& program, const std::string& path);
 
 }  // namespace vellumark
 

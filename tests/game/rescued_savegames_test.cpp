@@ -102,8 +102,15 @@ TEST_F(RescuedTest, DeletesOnlyAfterAYes) {
   disk.MakeReadOnly("Program/rescued/2/note3.txt");
   EXPECT_FALSE(DeleteRescuedFiles(program, FilesOf(All().at(0))));
   EXPECT_EQ(disk.AllFiles(), before);
+
+  files.FailAlways("Delete", "shot3.jpg", FileError::kInUse);
   boxes.answers = {BoxAnswer::kYes};
   EXPECT_TRUE(DeleteRescuedFiles(program, FilesOf(All().at(0))));
+  EXPECT_TRUE(Contains(boxes.shown.back().text, "\\2\\shot3.jpg\": ")) << boxes.AllTexts();
+  EXPECT_FALSE(Contains(boxes.shown.back().text, "savegame.3"));
+  files.Reset();
+  boxes.answers = {BoxAnswer::kYes};
+  EXPECT_TRUE(DeleteRescuedFiles(program, {"T:\\Program\\rescued\\2\\shot3.jpg"}));
   EXPECT_FALSE(disk.Exists("Program/rescued/2"));
 }
 
