@@ -48,6 +48,12 @@ class FileSizeLimit {
   void (*handler_)(int);
 };
 
+TEST_F(PosixFileSystemTest, WhatTheHostCannotLookUpIsNotTakenForMissing) {
+  EXPECT_EQ(fs_.RemoveFolder("D:"), FileError::kNotReady);
+  // Its bytes on the disk are too many for a name.
+  EXPECT_EQ(fs_.Delete("T:\\" + std::string(200, '\xE9')), FileError::kBadName);
+}
+
 TEST_F(PosixFileSystemTest, AnAmbiguousNameIsNotChanged) {
   disk_.Write("Save", "capital");
   disk_.Write("save", "small");
