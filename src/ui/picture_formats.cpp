@@ -10,7 +10,7 @@ namespace vellumark {
 PictureFormats ReadablePictures() {
   QStringList patterns;
   const QList<QByteArray> readable = QImageReader::supportedImageFormats();
-  for (const char* ending : {"jpg", "jpeg", "png", "bmp", "webp"}) {
+  for (const QByteArray& ending : PictureFormatNames()) {
     if (readable.contains(ending)) patterns.append(QStringLiteral("*.") + QLatin1String(ending));
   }
   return {.patterns = patterns.join(u';').toStdString(), .as_jpeg = [](const std::string& bytes) {

@@ -46,8 +46,7 @@ DecodedPicture Decode(std::string_view bytes, QSize most, const Check& check) {
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer);
   // Readers of other formats may unpack much before they know a size.
-  static const QList<QByteArray> known = {"jpeg", "jpg", "png", "bmp", "webp"};
-  if (!known.contains(reader.format())) return {{}, PictureFault::kNotAPicture};
+  if (!PictureFormatNames().contains(reader.format())) return {{}, PictureFault::kNotAPicture};
   const QSize size = reader.size();
   if (size.isValid()) {
     const PictureFault fault = check(size);
@@ -63,6 +62,11 @@ DecodedPicture Decode(std::string_view bytes, QSize most, const Check& check) {
 }
 
 }  // namespace
+
+const QList<QByteArray>& PictureFormatNames() {
+  static const QList<QByteArray> names = {"jpg", "jpeg", "png", "bmp", "webp"};
+  return names;
+}
 
 DecodedPicture DecodePicture(std::string_view bytes, QSize most) {
   return Decode(bytes, most, FaultOfSize);

@@ -3,7 +3,9 @@
 #ifndef VELLUMARK_PLATFORM_QT_PICTURE_READING_H_
 #define VELLUMARK_PLATFORM_QT_PICTURE_READING_H_
 
+#include <QByteArray>
 #include <QImage>
+#include <QList>
 #include <QSize>
 #include <optional>
 #include <string>
@@ -29,6 +31,9 @@ struct DecodedPicture {
   PictureFault fault = PictureFault::kNone;
   QSize whole_size{};  // in the file, before it was scaled down
 };
+
+// The formats that are decoded, by their names, which are also the endings of their files.
+const QList<QByteArray>& PictureFormatNames();
 
 // Decodes the bytes of a picture file. One that is larger than `most` is scaled down to fit, while
 // it is decoded where its format can; an empty `most` takes it as it is.
